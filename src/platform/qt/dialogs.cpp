@@ -1,0 +1,179 @@
+#include "platform/qt/dialogs.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace tendo {
+namespace {
+
+QString Q(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+/// "Name (*.x)|*.x|Other|*.y" as Qt writes it: "Name (*.x);;Other (*.y)".
+QString QtFilter(const std::string& filter) {
+    const QStringList parts = Q(filter).split('|', Qt::SkipEmptyParts);
+    QStringList filters;
+    for (qsizetype i = 0; i < parts.size(); i += 2) {
+        const QString patterns =
+            i + 1 < parts.size() ? QString(parts[i + 1]).replace(';', ' ') : "*";
+        const QString name = QString(parts[i]).section('(', 0, 0).trimmed();
+        filters << QString("%1 (%2 %3 %4)")
+                       .arg(name.isEmpty() ? "Files" : name, patterns, patterns.toLower(),
+                            patterns.toUpper());
+    }
+    filters << "All files (*)";
+    return filters.join(";;");
+}
+
+QMessageBox::StandardButtons QtButtons(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case Buttons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case Buttons::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        default:
+            return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon QtIcon(MessageIcon icon) {
+    switch (icon) {
+        case MessageIcon::Information:
+            return QMessageBox::Information;
+        case MessageIcon::Question:
+            return QMessageBox::Question;
+        case MessageIcon::Warning:
+            return QMessageBox::Warning;
+        case MessageIcon::Critical:
+            return QMessageBox::Critical;
+        default:
+            return QMessageBox::NoIcon;
+    }
+}
+
+/// The normal pointer while a dialog is up, whatever command put the hourglass there.
+class PlainPointer {
+  public:
+    PlainPointer() {
+        while (QApplication::overrideCursor()) {
+            ++count_;
+            QApplication::restoreOverrideCursor();
+        }
+    }
+    ~PlainPointer() {
+        for (int i = 0; i < count_; ++i)
+            QApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+    PlainPointer(const PlainPointer&) = delete;
+    PlainPointer& operator=(const PlainPointer&) = delete;
+
+  private:
+    int count_ = 0;
+};
+
+class QtDialogs : public DialogService {
+  public:
+    Answer Message(const MessageDialog& dialog) override {
+        const PlainPointer pointer;
+        QMessageBox box(QtIcon(dialog.icon), Q(dialog.title), Q(dialog.text),
+                        QtButtons(dialog.buttons), QApplication::activeWindow());
+        box.setTextFormat(Qt::PlainText);
+        switch (box.exec()) {
+            case QMessageBox::Ok:
+                return Answer::Ok;
+            case QMessageBox::Yes:
+                return Answer::Yes;
+            case QMessageBox::No:
+                return Answer::No;
+            default:
+                return dialog.buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+        }
+    }
+
+    std::optional<std::string> Input(const InputDialog& dialog) override {
+        const PlainPointer pointer;
+        bool ok = false;
+        const QString text =
+            QInputDialog::getText(QApplication::activeWindow(), Q(dialog.title), Q(dialog.prompt),
+                                  QLineEdit::Normal, Q(dialog.text), &ok);
+        if (!ok) return std::nullopt;
+        return text.toStdString();
+    }
+
+    std::optional<std::string> File(const FileDialog& dialog) override {
+        const PlainPointer pointer;
+        QFileDialog box(QApplication::activeWindow(), Q(dialog.title), Q(dialog.folder),
+                        QtFilter(dialog.filter));
+        const bool save = dialog.kind == FileDialog::Kind::Save;
+        box.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+        box.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+        box.setOption(QFileDialog::DontConfirmOverwrite, !dialog.promptOnOverwrite);
+        if (!dialog.defaultExtension.empty()) box.setDefaultSuffix(Q(dialog.defaultExtension));
+        if (!Q(dialog.fileName).contains('*')) box.selectFile(Q(dialog.fileName));
+        if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return std::nullopt;
+        return box.selectedFiles().constFirst().toStdString();
+    }
+
+    std::optional<std::uint32_t> Color(const ColorDialog& dialog) override {
+        const PlainPointer pointer;
+        const QColor color = QColorDialog::getColor(QColor(dialog.color),
+                                                    QApplication::activeWindow(), Q(dialog.title));
+        if (!color.isValid()) return std::nullopt;
+        return color.rgb() & 0xFFFFFFU;
+    }
+
+    std::optional<FontChoice> Font(const std::string& title, const FontChoice& font) override {
+        const PlainPointer pointer;
+        QFont start(Q(font.family), font.size);
+        start.setBold(font.bold);
+        start.setItalic(font.italic);
+        bool ok = false;
+        const QFont chosen =
+            QFontDialog::getFont(&ok, start, QApplication::activeWindow(), Q(title));
+        if (!ok) return std::nullopt;
+        return FontChoice{chosen.family().toStdString(), chosen.pointSize(), chosen.bold(),
+                          chosen.italic()};
+    }
+
+    bool Print(const std::string& title) override {
+        const PlainPointer pointer;
+        QPrinter printer;
+        QPrintDialog box(&printer, QApplication::activeWindow());
+        box.setWindowTitle(Q(title));
+        return box.exec() == QDialog::Accepted;
+    }
+};
+
+std::unique_ptr<DialogService>& Service() {
+    static std::unique_ptr<DialogService> service = std::make_unique<QtDialogs>();
+    return service;
+}
+
+}  // namespace
+
+DialogService& Dialogs() {
+    return *Service();
+}
+
+void SetDialogs(std::unique_ptr<DialogService> service) {
+    Service() = std::move(service);
+}
+
+void ShowMessage(const std::string& title, const std::string& text, MessageIcon icon) {
+    Dialogs().Message({title, text, Buttons::Ok, icon});
+}
+
+Answer Ask(const std::string& title, const std::string& text, Buttons buttons, MessageIcon icon) {
+    return Dialogs().Message({title, text, buttons, icon});
+}
+
+}  // namespace tendo

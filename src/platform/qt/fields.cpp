@@ -1,0 +1,175 @@
+#include "platform/qt/fields.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+
+#include "platform/qt/theme.h"
+
+namespace tendo {
+namespace {
+
+std::function<void(TextField*)> entryObserver;
+
+bool IsNumberKind(FieldKind kind) {
+    return kind == FieldKind::Money || kind == FieldKind::Percent || kind == FieldKind::Count;
+}
+
+/// The keys of the numeric kinds: digits; one point; one minus sign where negative numbers may be
+/// typed.
+bool NumberKeyAllowed(FieldKind kind, QChar key, const QString& rest) {
+    if (key.isDigit()) return true;
+    if (key == '.') return kind != FieldKind::Count && !rest.contains('.');
+    if (key == '-') return kind == FieldKind::Percent && !rest.contains('-');
+    return false;
+}
+
+}  // namespace
+
+TextField::TextField(QWidget* parent) : QLineEdit(parent) {
+    Prepare();
+}
+
+TextField::TextField(const FieldSpec& spec, QWidget* parent) : QLineEdit(parent), kind_(spec.kind) {
+    setObjectName(spec.name);
+    setMaxLength(spec.maxLength);
+    QString spoken = *spec.accessibleName ? spec.accessibleName : spec.label;
+    setAccessibleName(spoken.remove('&').remove(':'));
+    RangeText = spec.range;
+    UnitText = spec.unit;
+    if (spec.width > 0) {
+        const int width = fontMetrics().averageCharWidth() * spec.width + 24;
+        setMinimumWidth(width);
+        if (kind_ != FieldKind::Text && kind_ != FieldKind::Label) setMaximumWidth(width * 2);
+    }
+    const bool computed = kind_ == FieldKind::Figure || kind_ == FieldKind::Label;
+    if (kind_ != FieldKind::Text && kind_ != FieldKind::Label)
+        setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    if (computed) {
+        setReadOnly(true);
+        setProperty("figure", true);
+        setFocusPolicy(Qt::ClickFocus);
+    }
+    if (IsNumberKind(kind_)) {
+        KeyFilter = [this](QChar key, const QString& rest) {
+            return NumberKeyAllowed(kind_, key, rest);
+        };
+    }
+    Prepare();
+}
+
+void TextField::Prepare() {
+    freshTimer_.setSingleShot(true);
+    freshTimer_.setInterval(2000);
+    connect(&freshTimer_, &QTimer::timeout, this, [this] { SetStyleFlag(this, "fresh", false); });
+    connect(this, &QLineEdit::textChanged, this, [this] { ShowSigns(); });
+}
+
+void TextField::ShowSigns() {
+    if (kind_ == FieldKind::Text || kind_ == FieldKind::Label) return;
+    SetStyleFlag(this, "negative", text().startsWith('-'));
+    SetStyleFlag(this, "word", text() == "same");
+}
+
+void TextField::Commit() {
+    if (committing_ || isReadOnly()) return;
+    if (!CommitAlways && !isModified()) return;
+    committing_ = true;
+    setModified(false);
+    Q_EMIT Committed();
+    committing_ = false;
+}
+
+void TextField::ShowText(const QString& value) {
+    if (text() == value) return;
+    const bool all = hasFocus() && !text().isEmpty() && selectedText() == text();
+    setText(value);
+    if (all) selectAll();
+    if (!hasFocus()) setCursorPosition(0);
+}
+
+void TextField::MarkFresh() {
+    SetStyleFlag(this, "fresh", true);
+    freshTimer_.start();
+}
+
+void TextField::SetEntryObserver(std::function<void(TextField*)> observer) {
+    entryObserver = std::move(observer);
+}
+
+void TextField::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F1) {
+        Q_EMIT HelpWanted();
+        event->ignore();
+        return;
+    }
+    const QString typed = event->text();
+    const bool printable = !typed.isEmpty() && typed.at(0).isPrint() &&
+                           !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    if (printable && KeyFilter && !isReadOnly()) {
+        QString rest = text();
+        if (hasSelectedText()) rest.remove(selectionStart(), selectionLength());
+        if (!KeyFilter(typed.at(0), rest)) return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void TextField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (passTo_ && passTo_->isVisible() && passTo_->isEnabled()) {
+        passTo_->setFocus(event->reason());
+        return;
+    }
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+        QTimer::singleShot(0, this, [this] {
+            if (hasFocus()) selectAll();
+        });
+    if (entryObserver) entryObserver(this);
+}
+
+void TextField::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (event->reason() == Qt::PopupFocusReason) return;
+    if (event->reason() != Qt::ActiveWindowFocusReason) deselect();
+    if (!passTo_) Commit();
+    if (entryObserver) entryObserver(nullptr);
+}
+
+QToolButton* MakeHelpButton(const QString& name, const QString& accessibleName, QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setObjectName(name);
+    button->setText("?");
+    button->setProperty("help", true);
+    button->setAccessibleName(accessibleName);
+    button->setToolTip(accessibleName);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+QLabel* MakeHeading(const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setProperty("heading", true);
+    return label;
+}
+
+QLabel* MakeLabel(const QString& text, QWidget* buddy, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setProperty("quiet", true);
+    label->setBuddy(buddy);
+    return label;
+}
+
+QFrame* MakeRule(QWidget* parent) {
+    auto* rule = new QFrame(parent);
+    rule->setProperty("rule", true);
+    return rule;
+}
+
+TextField* AddFieldRow(QGridLayout* grid, int row, const FieldSpec& spec, QWidget* parent,
+                       int column) {
+    auto* field = new TextField(spec, parent);
+    grid->addWidget(MakeLabel(spec.label, field, parent), row, column);
+    grid->addWidget(field, row, column + 1);
+    return field;
+}
+
+}  // namespace tendo

@@ -1,0 +1,224 @@
+#include "platform/qt/form.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QTimer>
+
+#include "platform/files/ini_file_handler.h"
+#include "platform/qt/fields.h"
+
+namespace tendo {
+namespace {
+
+QList<Form*> loadedForms;
+QPointer<QMdiArea> workspace;
+std::function<void(Form&)> modalObserver;
+std::function<void()> listObserver;
+
+void TellList() {
+    if (listObserver) listObserver();
+}
+
+/// A size or place as stored; the default when the key is missing.
+int StoredNumber(const QString& section, const char* key, int defaultValue) {
+    const std::string text = Ini().MyGetAppProfileString(section.toStdString(), key, "");
+    bool ok = false;
+    const int value = QString::fromStdString(text).toInt(&ok);
+    return ok ? value : defaultValue;
+}
+
+}  // namespace
+
+Form::Form(const QString& name, const QString& caption, Place place,
+           const QString& placementSection)
+    : place_(place), placementSection_(placementSection) {
+    setObjectName(name);
+    setWindowTitle(caption);
+    setAttribute(Qt::WA_DeleteOnClose, place != Place::Main);
+    if (place == Place::Dialog) {
+        setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+                       Qt::WindowMaximizeButtonHint);
+        setWindowModality(Qt::ApplicationModal);
+    }
+    loadedForms.append(this);
+}
+
+Form::~Form() {
+    loadedForms.removeAll(this);
+    TellList();
+}
+
+void Form::MakeSubWindow() {
+    auto* window = new QMdiSubWindow;
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWidget(this);
+    workspace->addSubWindow(window);
+    window->setWindowIcon(QIcon());
+    const QSize frame(8, style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
+    const QSize room = workspace->viewport()->size();
+    window->resize((sizeHint() + frame).boundedTo(room.isEmpty() ? sizeHint() + frame : room));
+    subWindow_ = window;
+    if (!placementSection_.isEmpty()) RestorePlacement(window, placementSection_);
+}
+
+void Form::ShowForm() {
+    if (place_ == Place::Dialog) return ShowModal();
+    if (place_ == Place::Child && workspace) {
+        if (!subWindow_) MakeSubWindow();
+        if (subWindow_->isMinimized()) subWindow_->showNormal();
+        show();
+        subWindow_->show();
+        subWindow_->raise();
+        workspace->setActiveSubWindow(subWindow_);
+        setFocus();
+        if (!focusWidget() || !isAncestorOf(QApplication::focusWidget())) focusNextChild();
+    } else {
+        show();
+        raise();
+        activateWindow();
+    }
+    TellList();
+}
+
+void Form::ShowModal() {
+    if (!placementSection_.isEmpty()) RestorePlacement(this, placementSection_);
+    QPointer<Form> self(this);
+    QEventLoop loop;
+    connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
+    modalLoop_ = true;
+    show();
+    raise();
+    activateWindow();
+    TellList();
+    QTimer::singleShot(0, this, [self] {
+        if (self && modalObserver) modalObserver(*self);
+    });
+    loop.exec(QEventLoop::DialogExec);
+}
+
+bool Form::Unload() {
+    QPointer<Form> self(this);
+    if (subWindow_)
+        subWindow_->close();
+    else
+        close();
+    return !self || self->unloaded_;
+}
+
+bool Form::IsActiveForm() const {
+    return Active() == this;
+}
+
+QWidget* Form::Control(const QString& name) const {
+    return findChild<QWidget*>(name);
+}
+
+Form* Form::Find(const QString& name) {
+    for (Form* form : loadedForms)
+        if (!form->unloaded_ && form->objectName().compare(name, Qt::CaseInsensitive) == 0)
+            return form;
+    return nullptr;
+}
+
+QList<Form*> Form::Loaded() {
+    QList<Form*> forms;
+    for (Form* form : loadedForms)
+        if (!form->unloaded_) forms.append(form);
+    return forms;
+}
+
+Form* Form::TopModal() {
+    Form* top = nullptr;
+    for (Form* form : loadedForms)
+        if (!form->unloaded_ && form->modalLoop_ && form->isVisible()) top = form;
+    return top;
+}
+
+Form* Form::Active() {
+    if (Form* modal = TopModal()) return modal;
+    if (!workspace || !workspace->activeSubWindow()) return nullptr;
+    return qobject_cast<Form*>(workspace->activeSubWindow()->widget());
+}
+
+void Form::SetWorkspace(QMdiArea* area) {
+    workspace = area;
+}
+
+QMdiArea* Form::Workspace() {
+    return workspace;
+}
+
+void Form::SetModalObserver(std::function<void(Form&)> observer) {
+    modalObserver = std::move(observer);
+}
+
+void Form::SetListObserver(std::function<void()> observer) {
+    listObserver = std::move(observer);
+}
+
+void Form::CommitFocusedField() {
+    if (auto* field = qobject_cast<TextField*>(QApplication::focusWidget())) field->Commit();
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+    if (unloaded_) return;
+    if (QWidget* focus = QApplication::focusWidget(); focus && isAncestorOf(focus))
+        CommitFocusedField();
+    if (!QueryUnload()) {
+        event->ignore();
+        return;
+    }
+    FormUnload();
+    unloaded_ = true;
+    if (!placementSection_.isEmpty())
+        StorePlacement(subWindow_ ? static_cast<QWidget*>(subWindow_) : this, placementSection_);
+    event->accept();
+    TellList();
+}
+
+void Form::RestorePlacement(QWidget* window, const QString& section) {
+    const QWidget* frame = window->parentWidget();
+    const QRect room = frame ? frame->rect() : window->screen()->availableGeometry();
+    const QRect design = window->geometry();
+    const int left = StoredNumber(section, "Left", -1);
+    const int top = StoredNumber(section, "Top", -1);
+    const int width = StoredNumber(section, "Width", 0);
+    const int height = StoredNumber(section, "Height", 0);
+    QSize size = design.size();
+    if (width > 0 && width <= room.width()) size.setWidth(width);
+    if (height > 0 && height <= room.height()) size.setHeight(height);
+    window->resize(size);
+    QPoint place = design.topLeft();
+    if (left >= 0 && left < room.width()) place.setX(left);
+    if (top >= 0 && top < room.height()) place.setY(top);
+    if (left >= 0 || top >= 0) window->move(place);
+}
+
+void Form::StorePlacement(const QWidget* window, const QString& section) {
+    const std::string name = section.toStdString();
+    const bool normal = !window->isMinimized() && !window->isMaximized();
+    const int state = window->isMinimized() ? 1 : window->isMaximized() ? 2 : 0;
+    if (normal) {
+        const std::pair<const char*, int> sizes[] = {{"Left", window->x()},
+                                                     {"Top", window->y()},
+                                                     {"Width", window->width()},
+                                                     {"Height", window->height()}};
+        for (const auto& [key, value] : sizes)
+            Ini().MyWriteAppProfileString(name, key, std::to_string(value));
+    }
+    Ini().MyWriteAppProfileString(name, "WindowState", std::to_string(state));
+}
+
+Hourglass::Hourglass() {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+Hourglass::~Hourglass() {
+    QApplication::restoreOverrideCursor();
+}
+
+}  // namespace tendo

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+class QApplication;
+class QFont;
+class QWidget;
+
+namespace tendo {
+
+/// The colours of one set. Two sets, light and dark, follow the desktop.
+struct ThemeColors {
+    QColor window;     // a screen's ground
+    QColor workspace;  // behind the screens
+    QColor field;      // what can be typed in
+    QColor figure;     // what is computed
+    QColor line;       // borders and rules
+    QColor text;
+    QColor secondary;                // labels, headings
+    QColor accent;                   // focus ring, primary button, current system
+    QColor accentText;               // on the accent colour
+    QColor selection;                // the current row of a grid
+    QColor fresh;                    // figures that the last edit changed
+    QColor negative;                 // money and margins below zero
+    QColor cooling, heating, water;  // the three sides of a system, everywhere
+    bool dark = false;
+};
+
+/// The set in use.
+const ThemeColors& Theme();
+
+/// Chooses the set (environment TENDO_THEME "light" or "dark" comes first, then the desktop's own
+/// palette) and gives the application its style, palette, style sheet and font.
+void ApplyTheme(QApplication& application);
+void ApplyTheme(QApplication& application, bool dark);
+
+/// Fonts by use: body 10, secondary 9, headings 9 semibold, the one total of a screen 15 points,
+/// all relative to the desktop's font size.
+QFont BodyFont();
+QFont HeadingFont();
+QFont TotalFont();
+
+/// A style property by which the style sheet tells widgets apart ("figure", "fresh", "primary",
+/// "heading", "card"), set and shown at once.
+void SetStyleFlag(QWidget* widget, const char* flag, bool on);
+void SetStyleText(QWidget* widget, const char* name, const QString& value);
+
+}  // namespace tendo
