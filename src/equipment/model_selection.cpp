@@ -1,0 +1,276 @@
+#include "equipment/model_selection.h"
+
+#include <utility>
+
+#include "equipment/model_copy.h"
+#include "equipment/model_database.h"
+#include "platform/text/number_text.h"
+#include "platform/text/runtime_error.h"
+#include "platform/text/text.h"
+#include "project/program_state.h"
+
+namespace tendo {
+namespace {
+
+struct LimitTexts {
+    float ModelLimits::*value;
+    std::string_view label;
+    std::string_view prompt;
+};
+constexpr std::array<LimitTexts, 3> LimitTable = {
+    {{&ModelLimits::minimumCapacity,
+      "Set Mi&nimum Capacity = ", "Please Enter the Minimum Capacity:"},
+     {&ModelLimits::maximumCapacity,
+      "Set Ma&ximum Capacity = ", "Please Enter the Maximum Capacity:"},
+     {&ModelLimits::minimumEfficiency,
+      "Set Minimum &Efficiency = ", "Please Enter the Minimum Efficiency:"}}};
+
+const LimitTexts& TextsOf(ModelLimit limit) {
+    return LimitTable[static_cast<std::size_t>(limit)];
+}
+
+}  // namespace
+
+ModelSelection::ModelSelection(SelectionMode mode, ProjectRecords& records, int system,
+                               ModelSelectionDialogs dialogs)
+    : mode_(mode), records_(records), system_(system), dialogs_(std::move(dialogs)) {
+    currentTab_ = VisibleTabs().front();
+}
+
+std::string ModelSelection::StoredDatabase() const {
+    const std::size_t slot = Index(system_);
+    switch (mode_) {
+        case SelectionMode::Cooling:
+            return records_.CLGModelData.at(slot).DB.Trimmed();
+        case SelectionMode::Heating:
+            return records_.HTGModelData.at(slot).DB.Trimmed();
+        case SelectionMode::WaterHeater:
+            break;
+    }
+    return records_.WHModelData.at(slot).DB.Trimmed();
+}
+
+void ModelSelection::Tell(const std::string& text) const {
+    if (dialogs_.message) dialogs_.message(text);
+}
+
+void ModelSelection::ReportFailure(std::string_view name, int tab, int errorNumber) const {
+    Tell(ModelDatabaseMessage(name, {std::string(ModelTabAt(tab).kind), errorNumber}));
+}
+
+void ModelSelection::CloseDatabase() {
+    for (TabState& state : tabs_)
+        state.rows = ModelRows();
+    database_.reset();
+    markedTab_.reset();  // the marked row belonged to that database
+}
+
+bool ModelSelection::Open() {
+    CloseDatabase();
+    databaseName_ =
+        CheckToSeeIfDbaseExists(StoredDatabase(), records_.GPDProjectFormat.DefaultDB.Trimmed());
+    int tab = currentTab_;
+    try {
+        database_ = Database::OpenDatabase(databaseName_);
+        for (const int visible : VisibleTabs()) {
+            tab = visible;
+            const std::string query = ModelQueryText(mode_, tab, Limits(tab));
+            StateOf(tab).rows = ModelRows(database_->OpenRecordset(query), tab);
+        }
+        return true;
+    } catch (const RuntimeError& error) {
+        CloseDatabase();
+        ReportFailure(databaseName_, tab, error.Number());
+        return false;
+    }
+}
+
+bool ModelSelection::ChangeDatabase(std::string_view fileName) {
+    const std::string name(Trimmed(fileName));
+    int tab = currentTab_;
+    try {
+        Database database = Database::OpenDatabase(name);
+        if (const auto failure = CheckModelDatabase(database)) {
+            Tell(ModelDatabaseMessage(name, *failure));
+            return false;
+        }
+        std::array<ModelRows, ModelTabCount> rows;
+        for (const int visible : VisibleTabs()) {
+            tab = visible;
+            rows[Index(tab)] = ModelRows(database.OpenRecordset(ModelTabAt(tab).allRows), tab);
+        }
+        UseDatabase(name, std::move(database), std::move(rows));
+        return true;
+    } catch (const RuntimeError& error) {
+        ReportFailure(name, tab, error.Number());
+        return false;
+    }
+}
+
+void ModelSelection::UseDatabase(const std::string& name, Database database,
+                                 std::array<ModelRows, ModelTabCount> rows) {
+    CloseDatabase();
+    for (int tab = 0; tab < ModelTabCount; ++tab) {
+        StateOf(tab).rows = std::move(rows[Index(tab)]);
+        StateOf(tab).total = -1;
+    }
+    database_ = std::move(database);
+    databaseName_ = name;
+}
+
+bool ModelSelection::IsVisible(int tab) const {
+    return tab >= 0 && tab < ModelTabCount && ModelTabAt(tab).VisibleIn(mode_);
+}
+
+std::vector<int> ModelSelection::VisibleTabs() const {
+    std::vector<int> visible;
+    for (int tab = 0; tab < ModelTabCount; ++tab)
+        if (IsVisible(tab)) visible.push_back(tab);
+    return visible;
+}
+
+void ModelSelection::SetCurrentTab(int tab) {
+    if (!IsVisible(tab)) return;
+    currentTab_ = tab;
+    afterTabClick_ = true;
+    Requery(tab);
+}
+
+void ModelSelection::Requery(int tab) {
+    if (!database_) return;
+    TabState& state = StateOf(tab);
+    std::optional<std::int64_t> marked;
+    if (markedTab_ == tab) marked = state.rows.Bookmark();
+    try {
+        const std::string query = ModelQueryText(mode_, tab, state.limits);
+        state.rows = ModelRows(database_->OpenRecordset(query), tab);
+        // A marked row that the new limits hide is no choice any longer.
+        if (marked && !state.rows.MoveToBookmark(*marked)) markedTab_.reset();
+    } catch (const RuntimeError& error) {
+        if (marked) markedTab_.reset();
+        state.rows = ModelRows();
+        ReportFailure(databaseName_, tab, error.Number());
+    }
+}
+
+std::string ModelSelection::Title() const {
+    return std::string(SelectionModeText(mode_, afterTabClick_)) + " - " +
+           std::to_string(RowCount(currentTab_)) + std::string(ModelTabAt(currentTab_).kindText);
+}
+
+bool ModelSelection::SetLimit(ModelLimit limit, std::string_view text) {
+    double value = 0;
+    if (!ReadNumber(text, value)) return false;
+    StateOf(currentTab_).limits.*TextsOf(limit).value = ValueOfText(text);
+    Requery(currentTab_);
+    return true;
+}
+
+std::string ModelSelection::LimitLabel(ModelLimit limit) const {
+    return std::string(TextsOf(limit).label) + LimitText(limit);
+}
+
+std::string_view ModelSelection::LimitPrompt(ModelLimit limit) {
+    return TextsOf(limit).prompt;
+}
+
+std::string ModelSelection::LimitText(ModelLimit limit) const {
+    return PlainNumberText(Limits(currentTab_).*TextsOf(limit).value);
+}
+
+int ModelSelection::RowCount(int tab) const {
+    return StateOf(tab).rows.Count();
+}
+
+int ModelSelection::TotalRowCount(int tab) {
+    TabState& state = StateOf(tab);
+    if (!database_ || !IsVisible(tab)) return 0;
+    if (state.total < 0)
+        state.total = database_->OpenRecordset(ModelTabAt(tab).allRows).RecordCount();
+    return state.total;
+}
+
+int ModelSelection::ColumnCount(int tab) const {
+    return static_cast<int>(ModelTabAt(tab).columns.size());
+}
+
+std::string_view ModelSelection::ColumnHeading(int tab, int column) const {
+    return ModelTabAt(tab).columns[Index(column)].Heading();
+}
+
+CellFormat ModelSelection::ColumnFormat(int tab, int column) const {
+    return ModelTabAt(tab).columns[Index(column)].format;
+}
+
+std::string ModelSelection::CellText(int tab, int row, int column) const {
+    return StateOf(tab).rows.CellText(row, column);
+}
+
+int ModelSelection::CurrentRow(int tab) const {
+    return StateOf(tab).rows.CurrentRow();
+}
+
+void ModelSelection::SetCurrentRow(int tab, int row) {
+    StateOf(tab).rows.MoveTo(row);
+}
+
+void ModelSelection::ClickRow(int tab, int row) {
+    if (!IsVisible(tab) || !StateOf(tab).rows.HasRow(row)) return;
+    StateOf(tab).rows.MoveTo(row);
+    markedTab_ = tab;
+}
+
+bool ModelSelection::EPACompliant(int tab) const {
+    return CellText(tab, CurrentRow(tab), 0) == "Yes";
+}
+
+std::string ModelSelection::SearchLabel() const {
+    return "&Search for " + SearchText(currentTab_);
+}
+
+bool ModelSelection::Search(std::string_view text) {
+    StateOf(currentTab_).searchText = text;
+    return RepeatSearch();
+}
+
+bool ModelSelection::RepeatSearch() {
+    const std::string text = SearchText(currentTab_);
+    if (text.empty()) return false;
+    try {
+        return Find(text);
+    } catch (const RuntimeError& error) {
+        Tell(error.Description());  // an apostrophe breaks the criterion
+        return false;
+    }
+}
+
+bool ModelSelection::Find(const std::string& text) {
+    const std::string criteria = "Model Like '*" + text + "*'";
+    if (StateOf(currentTab_).rows.FindNext(criteria)) return true;
+    const std::string question =
+        "No more records found with " + text + ".  Do you wish to search again from the beginning?";
+    if (!dialogs_.yesNo || !dialogs_.yesNo(question)) return false;
+    if (StateOf(currentTab_).rows.FindFirst(criteria)) return true;
+    Tell("No more records found with " + text + ".");
+    return false;
+}
+
+bool ModelSelection::SelectModel(bool whProvidesHeat) {
+    if (!markedTab_ || !database_) return false;
+    const int tab = *markedTab_;
+    try {
+        ChosenModel model = ReadChosenModel(mode_, tab, StateOf(tab).rows.Current());
+        model.waterHeater.WHIsHydroAirComponent = whProvidesHeat ? 1 : 0;
+        model.manufacturer = ManufacturerName(*database_);
+        model.database = StoredDatabaseName(databaseName_);
+        ApplyChosenModel(mode_, model, records_, system_);
+    } catch (const RuntimeError& error) {
+        ReportFailure(databaseName_, tab, error.Number());
+        return false;
+    }
+    markedTab_.reset();
+    State().ProjectChanged = true;
+    return true;
+}
+
+}  // namespace tendo
