@@ -10,12 +10,13 @@
 namespace tendo {
 
 inline constexpr int SystemCount = 5;
-inline constexpr int MaterialRowCount = 1001;       // the last one is a spare, never reset or saved
+inline constexpr int MaterialRowCount = 1001;  // the last one is a spare, never reset or saved
 inline constexpr int SavedMaterialRowCount = 1000;
-inline constexpr int LaborRowCount = 16;            // the last one is a spare, never reset or saved
+inline constexpr int LaborRowCount = 16;  // the last one is a spare, never reset or saved
 inline constexpr int SavedLaborRowCount = 15;
 
-/// The project itself. All money, margins and percentages are floats; a percentage is a whole percent number.
+/// The project itself. All money, margins and percentages are floats; a percentage is a whole
+/// percent number.
 struct GPDProjectRecord {
     FixedText<10> ProgramVersion;
     FixedText<40> Title;
@@ -93,13 +94,14 @@ struct SystemTendosRecord {
           TotalGrossMargin = 0;
     float ModelPriceMarkup = 0, TaxMatPriceMarkup = 0, NonTaxPriceMarkup = 0, LaborPriceMarkup = 0,
           TotalPriceMarkup = 0;
-    float ModelListDiscount = 0, TaxMatListDiscount = 0, NonTaxListDiscount = 0, LaborListDiscount = 0,
-          TotalListDiscount = 0;
+    float ModelListDiscount = 0, TaxMatListDiscount = 0, NonTaxListDiscount = 0,
+          LaborListDiscount = 0, TotalListDiscount = 0;
     float ModelSalePrice = 0, TaxMatSalePrice = 0, NonTaxSalePrice = 0, LaborSalePrice = 0,
           TaxSalePrice = 0, TotalSalePrice = 0;
     float Profit = 0;
     float TaxPercentage = 8.25F;
-    float ModelLDPrice = 0, TaxMatLDPrice = 0, NonTaxLDPrice = 0, LaborLDPrice = 0, TotalLDPrice = 0;
+    float ModelLDPrice = 0, TaxMatLDPrice = 0, NonTaxLDPrice = 0, LaborLDPrice = 0,
+          TotalLDPrice = 0;
 
     template <class Self, class Visit>
     static void ForEachField(Self& self, Visit&& visit) {
@@ -337,7 +339,8 @@ struct WHModelRecord {
     }
 };
 
-/// One material line, of a project or of the catalogue. A line with `ItemQty` of 0 or less is empty.
+/// One material line, of a project or of the catalogue. A line with `ItemQty` of 0 or less is
+/// empty.
 struct MaterialRow {
     FixedText<255> Category;  // a project row doesn't keep it
     std::int16_t Accessory = 0;
@@ -345,7 +348,8 @@ struct MaterialRow {
     FixedText<22> Description;
     FixedText<35> PartNumber;
     std::int16_t Tax = 0;
-    float UnitCst = 0, ListCst = 0, GrossMargin = 0, PriceMarkup = 0, ListDiscount = 0, SalePrice = 0;
+    float UnitCst = 0, ListCst = 0, GrossMargin = 0, PriceMarkup = 0, ListDiscount = 0,
+          SalePrice = 0;
 
     template <class Self, class Visit>
     static void ForEachField(Self& self, Visit&& visit) {
@@ -415,14 +419,18 @@ struct ProjectRecords {
 /// The records of the one open project.
 ProjectRecords& Project();
 
-/// Puts all records to their first values. `TaxDealerOverride`, each `LaborDescription`, the spare rows and
-/// the two footnote counts stay as they were; each used footnote becomes a blank one. For the open project
-/// the catalogue rows are cleared too (`ProjectHooks::ResetCatalogue`).
+/// Puts all records to their first values. `TaxDealerOverride`, each `LaborDescription`, the spare
+/// rows and the two footnote counts stay as they were; each used footnote becomes a blank one. For
+/// the open project the catalogue rows are cleared too (`ProjectHooks::ResetCatalogue`).
 void ResetProjectData();
 void ResetProjectData(ProjectRecords& records);
 
-/// 100 * salePrice / (100 - discount); 0 when `discount` is exactly 100. A discount above 100 gives a
-/// negative price.
+/// What start-up gives the records: the reset values with a labor rate of 40 on the project and on
+/// every labor line, the default import folder, and the common directory as default model database.
+void SetStartValues(ProjectRecords& records, const std::string& commonDirectory);
+
+/// 100 * salePrice / (100 - discount); 0 when `discount` is exactly 100. A discount above 100 gives
+/// a negative price; RuntimeError 6 for a price beyond the range of a float.
 float ListPriceFromSalePrice(float salePrice, float discount);
 
 }  // namespace tendo
