@@ -18,8 +18,8 @@ std::string WithSeparator(std::string_view directory);
 bool FileExists(std::string_view name);
 bool DirectoryExists(std::string_view name);
 
-/// "dir/Job.tdw" gives "Job.tdw", "dir/" (with its separator; empty when there is none), "Job", ".tdw".
-/// The stem ends at the last point of the base name.
+/// "dir/Job.tdw" gives "Job.tdw", "dir/" (with its separator; empty when there is none), "Job",
+/// ".tdw". The stem ends at the last point of the base name.
 std::string BaseName(std::string_view path);
 std::string DirectoryOf(std::string_view path);
 std::string StemOf(std::string_view path);

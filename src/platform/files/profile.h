@@ -7,13 +7,13 @@
 
 namespace tendo {
 
-/// A private profile file: `[Section]` lines and `key=value` lines. Names of sections and keys do not
-/// depend on case. Comments, blank lines and lines that are neither are kept on a write. A missing file
-/// reads as empty; broken and overlong lines are passed over. UTF-8, older files in Windows-1252.
-/// The file is read again whenever it was changed since.
+/// A private profile file: `[Section]` lines and `key=value` lines. Names of sections and keys do
+/// not depend on case. Comments, blank lines and lines that are neither are kept on a write. A
+/// missing file reads as empty; broken and overlong lines are passed over. UTF-8, older files in
+/// Windows-1252. The file is read again whenever it was changed since.
 
-/// The value of a key, with blanks at both ends and one pair of enclosing quotes taken off; the default
-/// when there is none. The first of several equal keys counts.
+/// The value of a key, with blanks at both ends and one pair of enclosing quotes taken off; the
+/// default when there is none. The first of several equal keys counts.
 std::string ReadProfileString(std::string_view file, std::string_view section, std::string_view key,
                               std::string_view defaultValue);
 /// Sets a key, adding file and section when missing. Through the safe replace.

@@ -12,7 +12,8 @@ std::string ToWindows1252(std::string_view text);
 /// Bytes of a text file: UTF-8 (with or without mark), UTF-16 with a mark, else Windows-1252.
 std::string FromTextFileBytes(std::string_view bytes);
 
-/// UTF-16 (little endian bytes) to UTF-8; a lone surrogate becomes U+FFFD, an odd last byte is dropped.
+/// UTF-16 (little endian bytes) to UTF-8; a lone surrogate becomes U+FFFD, an odd last byte is
+/// dropped.
 std::string FromUtf16(std::string_view bytes);
 std::string ToUtf16(std::string_view text);
 

@@ -17,7 +17,8 @@ struct DateTime {
     friend bool operator==(const DateTime&, const DateTime&) = default;
 };
 
-/// Days since 30 December 1899 with the time of day as fraction, the form of dates in database files.
+/// Days since 30 December 1899 with the time of day as fraction, the form of dates in database
+/// files.
 double SerialOfDate(const DateTime& date);
 DateTime DateOfSerial(double serial);
 /// 0 = Sunday.
@@ -36,9 +37,9 @@ std::string ShortDateText(const DateTime& date);
 std::string LongDateText(const DateTime& date);
 /// "May 04, 1998" (the picture "mmmm dd, yyyy").
 std::string MonthDayYearText(const DateTime& date);
-/// A date as people in the United States write it: 5/4/98, 5-4-1998, May 4, 1998, 4 May 1998, 1998-05-04,
-/// with or without a weekday and a time; nothing when it doesn't read as one. Two-digit years: 00 to 29
-/// are 20xx, 30 to 99 are 19xx.
+/// A date as people in the United States write it: 5/4/98, 5-4-1998, May 4, 1998, 4 May 1998,
+/// 1998-05-04, with or without a weekday and a time; nothing when it doesn't read as one. Two-digit
+/// years: 00 to 29 are 20xx, 30 to 99 are 19xx.
 std::optional<DateTime> ReadDate(std::string_view text);
 
 }  // namespace tendo

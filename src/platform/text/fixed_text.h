@@ -8,14 +8,14 @@
 
 namespace tendo {
 
-/// A text field of `Width` characters: a stored value is cut at the width, what is read back is padded
-/// with blanks on the right. Width counts characters, not bytes. A new field is all blanks.
+/// A text field of `Width` characters: a stored value is cut at the width, what is read back is
+/// padded with blanks on the right. Width counts characters, not bytes. A new field is all blanks.
 template <std::size_t Width>
 class FixedText {
   public:
     FixedText() = default;
-    FixedText(std::string_view value) { *this = value; }    // NOLINT: a store is meant to be plain
-    FixedText(const char* value) { *this = std::string_view(value); }           // NOLINT
+    FixedText(std::string_view value) { *this = value; }  // NOLINT: a store is meant to be plain
+    FixedText(const char* value) { *this = std::string_view(value); }         // NOLINT
     FixedText(const std::string& value) { *this = std::string_view(value); }  // NOLINT
 
     FixedText& operator=(std::string_view value) {

@@ -22,14 +22,17 @@ class RuntimeError : public std::runtime_error {
 /// The classic numbers in use. The descriptions that go with them: `ErrorDescription`.
 namespace error_number {
 inline constexpr int Overflow = 6;
+inline constexpr int OutOfMemory = 7;
 inline constexpr int SubscriptOutOfRange = 9;
 inline constexpr int DivisionByZero = 11;
 inline constexpr int TypeMismatch = 13;
 inline constexpr int OutOfStackSpace = 28;
 inline constexpr int FileNotFound = 53;
+inline constexpr int DeviceError = 57;  // the disk failed to read or write
 inline constexpr int FileAlreadyExists = 58;
 inline constexpr int DiskFull = 61;
 inline constexpr int PermissionDenied = 70;
+inline constexpr int PathFileAccess = 75;
 inline constexpr int PathNotFound = 76;
 inline constexpr int NoCurrentRecord = 3021;
 inline constexpr int CouldNotFindFile = 3024;

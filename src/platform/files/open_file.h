@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/files/system_calls.h"
+
+namespace tendo {
+
+/// An open file, closed at the end of its life. Failures throw a RuntimeError that names
+/// `shownPath`, the name under which the user knows the file.
+class OpenFile {
+  public:
+    /// `verb` is what the messages say could not be done: "read" or "write".
+    OpenFile(int file, std::string_view verb, std::string shownPath);
+    ~OpenFile();
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    /// The number of bytes read, 0 at the end.
+    std::size_t Read(char* bytes, std::size_t size);
+    void WriteAll(std::string_view bytes);
+    void Flush();
+    struct stat Info();
+    void SetMode(mode_t mode);
+    /// Tries to give the file to an owner; only the administrator may in general.
+    void TryOwner(uid_t owner, gid_t group);
+    void Close();
+
+  private:
+    [[noreturn]] void Fail() const;
+
+    int file_;
+    std::string_view verb_;
+    std::string shownPath_;
+};
+
+/// Opens a file for reading that must be a plain one (a pipe would wait for ever).
+OpenFile OpenToRead(std::string_view path);
+
+}  // namespace tendo

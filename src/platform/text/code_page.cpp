@@ -1,0 +1,121 @@
+#include "platform/text/code_page.h"
+
+#include "platform/text/text.h"
+#include "platform/text/utf8.h"
+
+namespace tendo {
+
+namespace {
+
+/// Code points of the bytes 0x80 to 0x9F; every other byte is its own number. The five open places
+/// keep the control character of their number.
+constexpr char16_t HighControls[32] = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+char ByteOf(char32_t codePoint) {
+    if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint <= 0xFF)) {
+        return static_cast<char>(codePoint);
+    }
+    for (int i = 0; i < 32; ++i) {
+        if (HighControls[i] == codePoint) return static_cast<char>(0x80 + i);
+    }
+    return '?';
+}
+
+bool IsHighSurrogate(char32_t unit) {
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+bool IsLowSurrogate(char32_t unit) {
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+char32_t UnitAt(std::string_view bytes, std::size_t at) {
+    return static_cast<unsigned char>(bytes[at]) |
+           static_cast<char32_t>(static_cast<unsigned char>(bytes[at + 1])) << 8;
+}
+
+void AppendUnit(std::string& bytes, char32_t unit) {
+    bytes += static_cast<char>(unit & 0xFF);
+    bytes += static_cast<char>(unit >> 8);
+}
+
+/// Big endian units turned into little endian ones.
+std::string BytesSwapped(std::string_view bytes) {
+    std::string swapped;
+    swapped.reserve(bytes.size());
+    for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
+        swapped += bytes[at + 1];
+        swapped += bytes[at];
+    }
+    return swapped;
+}
+
+}  // namespace
+
+std::string FromWindows1252(std::string_view bytes) {
+    std::string text;
+    text.reserve(bytes.size());
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? HighControls[byte - 0x80] : byte);
+    }
+    return text;
+}
+
+std::string ToWindows1252(std::string_view text) {
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (std::size_t at = 0; at < text.size();) {
+        const Utf8Step step = Utf8At(text, at);
+        bytes += ByteOf(step.codePoint);
+        at += step.length;
+    }
+    return bytes;
+}
+
+std::string FromTextFileBytes(std::string_view bytes) {
+    if (bytes.starts_with("\xEF\xBB\xBF")) {
+        const std::string_view text = bytes.substr(3);
+        return IsUtf8(text) ? std::string(text) : FromWindows1252(text);
+    }
+    if (bytes.starts_with("\xFF\xFE")) return FromUtf16(bytes.substr(2));
+    if (bytes.starts_with("\xFE\xFF")) return FromUtf16(BytesSwapped(bytes.substr(2)));
+    return IsUtf8(bytes) ? std::string(bytes) : FromWindows1252(bytes);
+}
+
+std::string FromUtf16(std::string_view bytes) {
+    std::string text;
+    text.reserve(bytes.size());
+    for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
+        char32_t codePoint = UnitAt(bytes, at);
+        if (IsHighSurrogate(codePoint) && at + 3 < bytes.size() &&
+            IsLowSurrogate(UnitAt(bytes, at + 2))) {
+            at += 2;
+            codePoint = 0x10000 + ((codePoint - 0xD800) << 10) + (UnitAt(bytes, at) - 0xDC00);
+        }
+        AppendUtf8(text, codePoint);  // a lone surrogate becomes U+FFFD there
+    }
+    return text;
+}
+
+std::string ToUtf16(std::string_view text) {
+    std::string bytes;
+    bytes.reserve(text.size() * 2);
+    for (std::size_t at = 0; at < text.size();) {
+        const Utf8Step step = Utf8At(text, at);
+        at += step.length;
+        if (step.codePoint < 0x10000) {
+            AppendUnit(bytes, step.codePoint);
+            continue;
+        }
+        const char32_t offset = step.codePoint - 0x10000;
+        AppendUnit(bytes, 0xD800 + (offset >> 10));
+        AppendUnit(bytes, 0xDC00 + (offset & 0x3FF));
+    }
+    return bytes;
+}
+
+}  // namespace tendo
