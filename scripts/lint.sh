@@ -3,7 +3,7 @@
 # program, changed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-build=build/release
+build=build/sanitizers
 stamps=build/lint
 mkdir -p "$stamps"
 headers=$(git ls-files 'src/*.h' .clang-tidy | xargs cat | sha256sum | cut -c1-16)

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace tendo::bench {
+
+/// Each measures one thing against its peer and returns whether its limit holds. `folder` is for files made on the way.
+bool ModelDatabaseRead(const std::string& folder);
+bool ProjectSave(const std::string& folder);
+bool PriceCommit();
+/// `share`: the folder of the built sample data.
+bool ReportPdf(const std::string& folder, const std::string& share);
+
+}  // namespace tendo::bench
