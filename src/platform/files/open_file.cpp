@@ -69,7 +69,14 @@ void OpenFile::Close() {
     if (SystemCalls().close(std::exchange(file_, -1)) != 0 && errno != EINTR) Fail();
 }
 
+void CheckName(std::string_view verb, std::string_view path) {
+    if (path.find('\0') == std::string_view::npos) return;
+    ThrowFileError(verb, path.substr(0, path.find('\0')), error_number::PathNotFound,
+                   "the name holds a zero byte");
+}
+
 OpenFile OpenToRead(std::string_view path) {
+    CheckName("read", path);
     const std::string name(path);
     return OpenFile(SystemCalls().open(name.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK, 0), "read",
                     name);

@@ -35,7 +35,10 @@ class OpenFile {
     std::string shownPath_;
 };
 
-/// Opens a file for reading that must be a plain one (a pipe would wait for ever).
+/// Throws 76 for a name with a zero byte in it: the system would take it for a shorter one.
+void CheckName(std::string_view verb, std::string_view path);
+
+/// Opens a file for reading. The opening of a pipe doesn't wait for a writer.
 OpenFile OpenToRead(std::string_view path);
 
 }  // namespace tendo

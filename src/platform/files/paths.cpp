@@ -78,7 +78,8 @@ std::vector<std::string> FilesIn(std::string_view directory) {
     std::error_code error;
     for (fs::directory_iterator entry(directory, error), end; !error && entry != end;
          entry.increment(error)) {
-        names.push_back(entry->path().filename().string());
+        std::error_code unknown;
+        if (!entry->is_directory(unknown)) names.push_back(entry->path().filename().string());
     }
     std::sort(names.begin(), names.end());
     return names;

@@ -27,7 +27,8 @@ std::string ExtensionOf(std::string_view path);
 
 /// Makes the folder and those above it; throws RuntimeError 70 or 76.
 void MakeDirectory(std::string_view directory);
-/// Names (not paths) in a folder, sorted; empty when it can't be read.
+/// Names (not paths) of the files in a folder, sorted, without folders; empty when it can't be
+/// read.
 std::vector<std::string> FilesIn(std::string_view directory);
 /// The length in bytes; throws RuntimeError 53.
 std::uint64_t FileLength(std::string_view path);

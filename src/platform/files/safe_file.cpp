@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <utility>
 #include <vector>
 
 #include "platform/files/file_error.h"
@@ -23,6 +24,7 @@ using PieceWriter = std::function<void(std::string_view)>;
 /// The file that a name leads to in the end: symbolic links are followed, also one whose file isn't
 /// there.
 std::string FinalTarget(std::string_view path) {
+    CheckName("write", path);
     std::string target(path);
     for (int i = 0; i < LongestLinkChain; ++i) {
         char link[4096];
@@ -203,6 +205,7 @@ void CopyFileOver(std::string_view from, std::string_view to) {
 }
 
 void DeleteFileIfThere(std::string_view path) {
+    CheckName("delete", path);
     const std::string name(path);
     if (SystemCalls().unlink(name.c_str()) == 0 || errno == ENOENT || errno == ENOTDIR) return;
     ThrowFileError("delete", path, errno);
