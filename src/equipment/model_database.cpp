@@ -56,14 +56,6 @@ std::string CheckToSeeIfDbaseExists(std::string_view name, std::string_view defa
     return State().CommonDirectory + WithModelExtension(Trimmed(defaultDB));
 }
 
-std::string StoredDatabaseName(std::string_view fileName) {
-    const std::string& common = State().CommonDirectory;
-    const std::size_t width = decltype(CLGModelRecord::DB)::width();
-    if (CharacterCount(fileName) > width && !common.empty() && DirectoryOf(fileName) == common)
-        return BaseName(fileName);
-    return std::string(fileName);
-}
-
 std::string FurnaceFuelText(std::int32_t code) {
     return FuelText(FurnaceFuels, code);
 }

@@ -19,11 +19,6 @@ std::string CheckToSeeIfDbaseExists(std::string_view name);
 /// The same for another project's default database.
 std::string CheckToSeeIfDbaseExists(std::string_view name, std::string_view defaultDB);
 
-/// The name to keep in a model's `DB`: the full name; but a file of the `CommonDirectory` whose
-/// full name wouldn't fit in the field's 50 characters goes by its base name, which is found there
-/// again.
-std::string StoredDatabaseName(std::string_view fileName);
-
 /// Fuel codes of [GAMA File]: 1 to 4 are furnaces, 5 to 8 boilers. Empty for any other code.
 std::string FurnaceFuelText(std::int32_t code);
 /// Fuel codes of [WH File], 1 to 5. Empty for any other code.

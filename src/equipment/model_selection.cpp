@@ -7,6 +7,7 @@
 #include "platform/text/number_text.h"
 #include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
+#include "pricing/system_models.h"
 #include "project/program_state.h"
 
 namespace tendo {
@@ -262,7 +263,7 @@ bool ModelSelection::SelectModel(bool whProvidesHeat) {
         ChosenModel model = ReadChosenModel(mode_, tab, StateOf(tab).rows.Current());
         model.waterHeater.WHIsHydroAirComponent = whProvidesHeat ? 1 : 0;
         model.manufacturer = ManufacturerName(*database_);
-        model.database = StoredDatabaseName(databaseName_);
+        model.database = ModelDatabaseName(databaseName_);
         ApplyChosenModel(mode_, model, records_, system_);
     } catch (const RuntimeError& error) {
         ReportFailure(databaseName_, tab, error.Number());
