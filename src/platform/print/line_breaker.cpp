@@ -1,0 +1,170 @@
+#include "platform/print/line_breaker.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tendo {
+
+namespace {
+
+constexpr int DefaultTab = 720;
+
+struct Piece {
+    std::string_view text;
+    int font = 0;
+    Rgb color = 0;
+    double width = 0;
+};
+
+/// Bytes of the first character; a broken byte counts as one.
+std::size_t CharacterBytes(std::string_view text) {
+    std::size_t bytes = 1;
+    while (bytes < text.size() && bytes < 4 &&
+           (static_cast<unsigned char>(text[bytes]) & 0xC0) == 0x80)
+        ++bytes;
+    return bytes;
+}
+
+class LineBreaker {
+  public:
+    LineBreaker(FontTable& fonts, const LineShape& shape)
+        : fonts_(fonts), shape_(shape), x_(shape.firstIndent) {}
+
+    void Add(const StyledRun& run) {
+        font_ = run.font;
+        std::string_view rest = run.text;
+        while (!rest.empty()) {
+            const std::size_t end = std::min(rest.find_first_of(" \t\r\n"), rest.size());
+            if (end > 0) AddWordPart({rest.substr(0, end), run.font, run.color, 0});
+            if (end < rest.size()) AddBreak(rest[end], run);
+            rest.remove_prefix(std::min(end + 1, rest.size()));
+        }
+    }
+
+    std::vector<TextLine> Finish() {
+        FlushWord();
+        EndLine();
+        return std::move(lines_);
+    }
+
+  private:
+    void AddWordPart(Piece piece) {
+        piece.width = fonts_.WordWidth(piece.font, piece.text);
+        wordWidth_ += piece.width;
+        word_.push_back(piece);
+    }
+
+    void AddBreak(char character, const StyledRun& run) {
+        FlushWord();
+        if (character == ' ') {
+            blanks_.push_back({" ", run.font, run.color, fonts_.SpaceWidth(run.font)});
+        } else if (character == '\t') {
+            PlaceBlanks();
+            x_ = NextTab();
+        } else if (character == '\n') {
+            EndLine();
+            x_ = shape_.firstIndent;
+        }
+    }
+
+    double NextTab() const {
+        for (const int tab : shape_.tabs)
+            if (tab > x_) return tab;
+        if (x_ < shape_.restIndent) return shape_.restIndent;
+        return (std::floor(x_ / DefaultTab) + 1) * DefaultTab;
+    }
+
+    void FlushWord() {
+        if (word_.empty()) return;
+        double blankWidth = 0;
+        for (const Piece& blank : blanks_)
+            blankWidth += blank.width;
+        if (!line_.fragments.empty() && x_ + blankWidth + wordWidth_ > shape_.width) {
+            EndLine();
+            x_ = shape_.restIndent;
+        }
+        PlaceBlanks();
+        if (x_ + wordWidth_ <= shape_.width)
+            for (const Piece& piece : word_)
+                Place(piece);
+        else
+            PlaceBroken();
+        word_.clear();
+        wordWidth_ = 0;
+    }
+
+    void PlaceBlanks() {
+        for (const Piece& blank : blanks_)
+            Place(blank);
+        blanks_.clear();
+    }
+
+    /// A word wider than the line: as many characters as fit, at least one a line.
+    void PlaceBroken() {
+        for (const Piece& piece : word_) {
+            std::string_view rest = piece.text;
+            while (!rest.empty()) {
+                const std::string_view character = rest.substr(0, CharacterBytes(rest));
+                const double width = fonts_.WordWidth(piece.font, character);
+                if (x_ + width > shape_.width && !line_.fragments.empty()) {
+                    EndLine();
+                    x_ = shape_.restIndent;
+                }
+                Place({character, piece.font, piece.color, width});
+                rest.remove_prefix(character.size());
+            }
+        }
+    }
+
+    void Place(const Piece& piece) {
+        if (!line_.fragments.empty()) {
+            LineFragment& last = line_.fragments.back();
+            if (last.font == piece.font && last.color == piece.color && last.x + last.width == x_) {
+                last.text += piece.text;
+                last.width += piece.width;
+                x_ = last.x + last.width;
+                if (piece.text != " ") line_.width = x_;
+                return;
+            }
+        }
+        line_.fragments.push_back(
+            {x_, piece.width, piece.font, piece.color, std::string(piece.text)});
+        x_ += piece.width;
+        if (piece.text != " ") line_.width = x_;
+    }
+
+    void EndLine() {
+        blanks_.clear();
+        const auto grow = [&](int font) {
+            const FontMetrics& metrics = fonts_.Metrics(font);
+            line_.ascent = std::max(line_.ascent, metrics.ascent);
+            line_.height = std::max(line_.height, metrics.lineHeight);
+        };
+        for (const LineFragment& fragment : line_.fragments)
+            grow(fragment.font);
+        if (line_.fragments.empty()) grow(font_);
+        lines_.push_back(std::move(line_));
+        line_ = {};
+    }
+
+    FontTable& fonts_;
+    const LineShape& shape_;
+    std::vector<TextLine> lines_;
+    TextLine line_;
+    std::vector<Piece> word_, blanks_;
+    double wordWidth_ = 0;
+    double x_ = 0;
+    int font_ = 0;
+};
+
+}  // namespace
+
+std::vector<TextLine> BreakLines(FontTable& fonts, std::span<const StyledRun> runs,
+                                 const LineShape& shape) {
+    LineBreaker breaker(fonts, shape);
+    for (const StyledRun& run : runs)
+        breaker.Add(run);
+    return breaker.Finish();
+}
+
+}  // namespace tendo

@@ -1,0 +1,181 @@
+#include "platform/print/table_layout.h"
+
+#include <algorithm>
+
+#include "platform/print/table_text.h"
+#include "platform/text/text.h"
+
+namespace tendo {
+
+namespace {
+
+constexpr int RowPadding = 35;  // above and below the lines of a cell
+constexpr int ComparisonBorder = 3, RuledBorder = 2, GridBorder = 7;
+constexpr Rgb RuleColor = 0xC8CDD2;
+constexpr int RuleWidth = 8;
+
+struct RowLayout {
+    std::vector<std::vector<TextLine>> cells;
+    std::size_t lines = 0;  // of its highest cell
+    bool blank = false;     // a spacer
+    bool header = false;
+};
+
+class TableWriter {
+  public:
+    TableWriter(PageFlow& flow, const TableStyle& style, std::string_view format)
+        : flow_(flow), style_(style), columns_(ParseTableFormat(format)) {
+        lineHeight_ = flow.Fonts().Metrics(style.font).lineHeight * style.lineSpacing / 100;
+        lineHeight_ = std::max(lineHeight_, 1);
+        for (const TableColumn& column : columns_)
+            tableWidth_ += column.width;
+    }
+
+    void Write(std::string_view header, std::string_view body) {
+        flow_.EnsurePage();
+        if (!header.empty()) {
+            header_ = LayOut(header, style_.boldFont);
+            header_->header = true;
+        }
+        bool headerWritten = false;
+        for (const std::string_view text : SplitRows(body)) {
+            const RowLayout row = LayOut(text, IsTotal(text) ? style_.boldFont : style_.font);
+            if (!headerWritten) WriteFirstHeader(row);
+            headerWritten = true;
+            WriteRow(row);
+        }
+        if (!headerWritten) WriteFirstHeader({});
+        flow_.x = page_geometry::Left;
+    }
+
+  private:
+    /// The line of totals of a comparison stands out.
+    bool IsTotal(std::string_view row) const {
+        return style_.border == ComparisonBorder && StartsWith(row, "Total");
+    }
+
+    RowLayout LayOut(std::string_view text, int font) {
+        RowLayout row;
+        row.blank = text.find_first_not_of("| \r\n") == std::string_view::npos;
+        const std::vector<std::string_view> cells = SplitCells(text, columns_.size());
+        row.cells.reserve(cells.size());
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            const StyledRun run{cells[i], font, style_.color};
+            const int width = std::max(columns_[i].width - 2 * page_geometry::CellPadding, 1);
+            row.cells.push_back(BreakLines(flow_.Fonts(), {&run, 1}, {width, 0, 0, {}}));
+            row.lines = std::max(row.lines, row.cells.back().size());
+        }
+        return row;
+    }
+
+    int Height(const RowLayout& row) const { return Height(row, row.lines); }
+    int Height(const RowLayout& row, std::size_t lines) const {
+        if (row.blank) return lineHeight_ / 2;
+        return static_cast<int>(lines) * lineHeight_ + 2 * RowPadding;
+    }
+
+    /// The header doesn't stand alone at the foot of a page.
+    void WriteFirstHeader(const RowLayout& firstRow) {
+        if (!header_) return;
+        const int needed = Height(*header_) + Height(firstRow) + lineHeight_;
+        if (!flow_.Fits(needed) && flow_.y > page_geometry::Top + lineHeight_ * 2) flow_.NewPage();
+        Place(*header_, 0, header_->lines);
+    }
+
+    void BreakPage() {
+        flow_.NewPage();
+        if (!header_) return;
+        if (Height(*header_) < (page_geometry::Bottom - page_geometry::Top) / 2)
+            Place(*header_, 0, header_->lines);
+    }
+
+    void WriteRow(const RowLayout& row) {
+        if (!flow_.Fits(Height(row))) {
+            if (row.blank) return;  // a spacer at the foot of a page parts nothing
+            BreakPage();
+        }
+        if (flow_.Fits(Height(row)))
+            Place(row, 0, row.lines);
+        else
+            WriteByLines(row);
+    }
+
+    /// A row higher than a page: as many lines as the page takes, at least one.
+    void WriteByLines(const RowLayout& row) {
+        std::size_t from = 0;
+        while (from < row.lines) {
+            if (from > 0) BreakPage();
+            const int room = (page_geometry::Bottom - flow_.y - 2 * RowPadding) / lineHeight_;
+            const std::size_t count =
+                std::min(row.lines - from, static_cast<std::size_t>(std::max(room, 1)));
+            Place(row, from, count);
+            from += count;
+        }
+    }
+
+    void Place(const RowLayout& row, std::size_t from, std::size_t count) {
+        const int height = Height(row, count);
+        if (row.header && style_.headerShade) PlaceShade(height);
+        int left = page_geometry::Left + page_geometry::TableInset;
+        for (std::size_t i = 0; i < row.cells.size(); ++i) {
+            PlaceCell(row, i, from, count, left);
+            if (style_.border == GridBorder) PlaceFrame(left, columns_[i].width, height);
+            left += columns_[i].width;
+        }
+        if (style_.border == RuledBorder && !row.blank) PlaceRule(height);
+        flow_.y += height;
+    }
+
+    void PlaceCell(const RowLayout& row, std::size_t column, std::size_t from, std::size_t count,
+                   int left) {
+        const std::vector<TextLine>& lines = row.cells[column];
+        int top = flow_.y + RowPadding;
+        // Headings of several lines stand on one base line.
+        if (row.header) top += static_cast<int>(row.lines - lines.size()) * lineHeight_;
+        for (std::size_t i = from; i < std::min(from + count, lines.size()); ++i) {
+            flow_.AddLine(lines[i], LineLeft(lines[i], columns_[column], left), top);
+            top += lineHeight_;
+        }
+    }
+
+    static double LineLeft(const TextLine& line, const TableColumn& column, int left) {
+        const double room = column.width - 2 * page_geometry::CellPadding - line.width;
+        const double start = left + page_geometry::CellPadding;
+        if (column.align == CellAlign::Right) return start + room;
+        return column.align == CellAlign::Center ? start + room / 2 : start;
+    }
+
+    void PlaceShade(int height) {
+        const int left = page_geometry::Left + page_geometry::TableInset;
+        flow_.Current().shapes.push_back(BoxItem{
+            left, flow_.y, left + tableWidth_, flow_.y + height, style_.headerShade, {}, 0});
+    }
+
+    void PlaceFrame(int left, int width, int height) {
+        flow_.Current().shapes.push_back(
+            BoxItem{left, flow_.y, left + width, flow_.y + height, {}, Rgb{0}, RuleWidth});
+    }
+
+    void PlaceRule(int height) {
+        const int left = page_geometry::Left + page_geometry::TableInset;
+        const int bottom = flow_.y + height;
+        flow_.Current().shapes.push_back(
+            LineItem{left, bottom, left + tableWidth_, bottom, RuleColor, RuleWidth});
+    }
+
+    PageFlow& flow_;
+    const TableStyle& style_;
+    std::vector<TableColumn> columns_;
+    std::optional<RowLayout> header_;
+    int lineHeight_ = 0;
+    int tableWidth_ = 0;
+};
+
+}  // namespace
+
+void WriteTable(PageFlow& flow, const TableStyle& style, std::string_view format,
+                std::string_view header, std::string_view body) {
+    TableWriter(flow, style, format).Write(header, body);
+}
+
+}  // namespace tendo
