@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/print/document.h"
+#include "platform/print/text_measurer.h"
+#include "project/project_records.h"
+
+namespace tendo {
+
+/// Which reports a package holds.
+struct ReportSelection {
+    bool title = false, sales = false, cost = false, accessories = false, installer = false;
+};
+
+/// The whole report package of a project, laid out. Without a selection the report options decide.
+Document BuildReportPackage(ProjectRecords& project, TextMeasurer& measurer,
+                            const std::optional<ReportSelection>& selection = {});
+
+/// Title and author of a project's document.
+void SetDocumentNames(Document& document, const ProjectRecords& project);
+
+}  // namespace tendo
