@@ -1,0 +1,109 @@
+#include "platform/qt/painter_page.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QIcon>
+#include <QPainter>
+#include <QPixmap>
+#include <QSvgRenderer>
+#include <cmath>
+
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
+#include "platform/qt/text_measurer_qt.h"
+#include "platform/text/runtime_error.h"
+
+namespace tendo {
+
+namespace {
+
+constexpr double TwipsPerInch = 1440;
+
+QPen PenOf(Rgb color, int width) {
+    QPen pen(QColor::fromRgb(color));
+    pen.setWidthF(width);
+    pen.setJoinStyle(Qt::MiterJoin);
+    return pen;
+}
+
+QRectF RectOf(const auto& item) {
+    return QRectF(QPointF(item.left, item.top), QPointF(item.right, item.bottom)).normalized();
+}
+
+void Paint(QPainter& painter, const BoxItem& box) {
+    painter.setPen(box.outline ? PenOf(*box.outline, box.penWidth) : QPen(Qt::NoPen));
+    painter.setBrush(box.fill ? QBrush(QColor::fromRgb(*box.fill)) : QBrush(Qt::NoBrush));
+    painter.drawRect(RectOf(box));
+}
+
+void Paint(QPainter& painter, const LineItem& line) {
+    painter.setPen(PenOf(line.color, line.penWidth));
+    painter.drawLine(QPointF(line.x1, line.y1), QPointF(line.x2, line.y2));
+}
+
+void Paint(QPainter& painter, const PictureItem& picture) {
+    const QRectF box = RectOf(picture);
+    if (picture.path == ProgramIconPicture) {
+        const QPixmap icon = QApplication::windowIcon().pixmap(128, 128);
+        if (!icon.isNull()) painter.drawPixmap(box, icon, QRectF(icon.rect()));
+        return;
+    }
+    const QString path = QString::fromStdString(picture.path);
+    if (path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
+        QSvgRenderer(path).render(&painter, box);
+        return;
+    }
+    const QImage image(path);
+    if (!image.isNull()) painter.drawImage(box, image);
+}
+
+void Paint(QPainter& painter, const TextItem& text, const std::vector<FontSpec>& fonts) {
+    painter.setFont(DocumentFont(fonts.at(static_cast<std::size_t>(text.font))));
+    painter.setPen(QColor::fromRgb(text.color));
+    painter.drawText(QPointF(text.x, text.y), QString::fromStdString(text.text));
+}
+
+void SavePng(const QImage& image, const std::string& path) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!image.save(&buffer, "PNG")) ThrowError(error_number::PermissionDenied);
+    ReplaceFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+}  // namespace
+
+void PaintPage(QPainter& painter, const Document& document, int page, double scale) {
+    const Page& contents = document.pages.at(static_cast<std::size_t>(page));
+    painter.save();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                           QPainter::SmoothPixmapTransform);
+    painter.scale(scale, scale);
+    painter.translate(page_geometry::PaperMargin, page_geometry::PaperMargin);
+    for (const Shape& shape : contents.shapes)
+        std::visit([&](const auto& item) { Paint(painter, item); }, shape);
+    for (const TextItem& text : contents.texts)
+        Paint(painter, text, document.fonts);
+    painter.restore();
+}
+
+QImage PageImage(const Document& document, int page, double dpi) {
+    const double scale = dpi / TwipsPerInch;
+    const auto pixels = [&](int twips) { return static_cast<int>(std::lround(twips * scale)); };
+    QImage image(pixels(page_geometry::PaperWidth), pixels(page_geometry::PaperHeight),
+                 QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    PaintPage(painter, document, page, scale);
+    return image;
+}
+
+void WritePng(const Document& document, const std::string& path, double dpi) {
+    for (int page = 0; page < static_cast<int>(document.pages.size()); ++page) {
+        const std::string name =
+            DirectoryOf(path) + StemOf(path) + "-" + std::to_string(page + 1) + ExtensionOf(path);
+        SavePng(PageImage(document, page, dpi), document.pages.size() == 1 ? path : name);
+    }
+}
+
+}  // namespace tendo

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QImage>
+
+#include "platform/print/document.h"
+
+class QPainter;
+
+namespace tendo {
+
+/// Paints one page, `page` from 0, with the paper's corner at the painter's origin. `scale` is
+/// device pixels for a twip. Pictures that can't be read are left out.
+void PaintPage(QPainter& painter, const Document& document, int page, double scale);
+
+/// The page on white paper at `dpi` dots an inch.
+QImage PageImage(const Document& document, int page, double dpi);
+
+/// Writes pages as PNG: one page under the path itself, of more than one each with "-1", "-2" ...
+/// ahead of the extension. Throws RuntimeError 70 when a file can't be written.
+void WritePng(const Document& document, const std::string& path, double dpi);
+
+}  // namespace tendo
