@@ -4,7 +4,8 @@
 
 namespace tendo::bench {
 
-/// Each measures one thing against its peer and returns whether its limit holds. `folder` is for files made on the way.
+/// Each measures one thing against its peer and returns whether its limit holds. `folder` is for
+/// files made on the way.
 bool ModelDatabaseRead(const std::string& folder);
 bool ProjectSave(const std::string& folder);
 bool PriceCommit();

@@ -20,7 +20,8 @@ double Seconds(const std::function<void()>& work) {
 std::vector<double> Medians(const std::vector<std::function<void()>>& works, int rounds) {
     std::vector<std::vector<double>> times(works.size());
     for (int round = 0; round < rounds; ++round)
-        for (std::size_t i = 0; i < works.size(); ++i) times[i].push_back(Seconds(works[i]));
+        for (std::size_t i = 0; i < works.size(); ++i)
+            times[i].push_back(Seconds(works[i]));
     std::vector<double> medians;
     for (auto& list : times) {
         std::sort(list.begin(), list.end());
@@ -52,12 +53,13 @@ double PeakGrowth(const std::function<void()>& work) {
     return PeakOfChild(work) - PeakOfChild([] {});
 }
 
-bool Report(const std::string& what, double ours, double peer, const std::string& unit, double limit,
-            bool atMost) {
+bool Report(const std::string& what, double ours, double peer, const std::string& unit,
+            double limit, bool atMost) {
     const double ratio = ours / peer;
     const bool holds = atMost ? ratio <= limit : ratio >= limit;
-    std::printf("%-52s %12.3f %12.3f %-9s ratio %7.3f  (%s %.2f)  %s\n", what.c_str(), ours, peer, unit.c_str(),
-                ratio, atMost ? "at most" : "at least", limit, holds ? "holds" : "MISSED");
+    std::printf("%-52s %12.3f %12.3f %-9s ratio %7.3f  (%s %.2f)  %s\n", what.c_str(), ours, peer,
+                unit.c_str(), ratio, atMost ? "at most" : "at least", limit,
+                holds ? "holds" : "MISSED");
     std::fflush(stdout);
     return holds;
 }

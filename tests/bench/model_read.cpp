@@ -23,14 +23,14 @@ struct ColumnPlan {
     int size;
 };
 const ColumnPlan columns[] = {
-    {"EPA", jet::ColumnType::Boolean, 0},      {"Model", jet::ColumnType::Text, 35},
-    {"Tradename", jet::ColumnType::Text, 50},  {"Description", jet::ColumnType::Text, 50},
+    {"EPA", jet::ColumnType::Boolean, 0},         {"Model", jet::ColumnType::Text, 35},
+    {"Tradename", jet::ColumnType::Text, 50},     {"Description", jet::ColumnType::Text, 50},
     {"DealerCost", jet::ColumnType::Currency, 0}, {"ListPrice", jet::ColumnType::Currency, 0},
-    {"Capacity", jet::ColumnType::Single, 0},  {"Seer", jet::ColumnType::Single, 0},
-    {"Eer", jet::ColumnType::Single, 0},       {"Sound", jet::ColumnType::Single, 0},
-    {"AirHandler", jet::ColumnType::Text, 35}, {"Electrical", jet::ColumnType::Text, 35},
-    {"Height", jet::ColumnType::Single, 0},    {"Width", jet::ColumnType::Single, 0},
-    {"Weight", jet::ColumnType::Single, 0},    {"CompressorWarranty", jet::ColumnType::Text, 35},
+    {"Capacity", jet::ColumnType::Single, 0},     {"Seer", jet::ColumnType::Single, 0},
+    {"Eer", jet::ColumnType::Single, 0},          {"Sound", jet::ColumnType::Single, 0},
+    {"AirHandler", jet::ColumnType::Text, 35},    {"Electrical", jet::ColumnType::Text, 35},
+    {"Height", jet::ColumnType::Single, 0},       {"Width", jet::ColumnType::Single, 0},
+    {"Weight", jet::ColumnType::Single, 0},       {"CompressorWarranty", jet::ColumnType::Text, 35},
     {"PartsWarranty", jet::ColumnType::Text, 35}, {"Added", jet::ColumnType::Date, 0},
 };
 
@@ -55,7 +55,8 @@ void WriteModels(const std::string& file) {
                         row[c] = i % 3 == 0;
                         break;
                     case jet::ColumnType::Text:
-                        texts[c] = std::string(columns[c].name) + "-" + std::to_string(i * 7 % 9001);
+                        texts[c] =
+                            std::string(columns[c].name) + "-" + std::to_string(i * 7 % 9001);
                         if ((i + static_cast<int>(c)) % 11 == 0)
                             row[c] = std::monostate{};
                         else
@@ -81,7 +82,8 @@ void Must(int result, int wanted = SQLITE_OK) {
 sqlite3* OpenMemory() {
     sqlite3* database = nullptr;
     Must(sqlite3_open(":memory:", &database));
-    Must(sqlite3_exec(database, "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; BEGIN", nullptr, nullptr, nullptr));
+    Must(sqlite3_exec(database, "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; BEGIN", nullptr,
+                      nullptr, nullptr));
     return database;
 }
 
@@ -92,7 +94,8 @@ double RawDouble(const unsigned char* bytes) {
 }
 
 /// Binds the raw bytes of a field as libmdb's row route leaves them on its page.
-void BindRaw(sqlite3_stmt* insert, int at, MdbHandle* mdb, const MdbColumn* column, char* text, std::size_t room) {
+void BindRaw(sqlite3_stmt* insert, int at, MdbHandle* mdb, const MdbColumn* column, char* text,
+             std::size_t room) {
     const unsigned char* bytes = mdb->pg_buf + column->cur_value_start;
     if (column->col_type == MDB_BOOL) {
         sqlite3_bind_int(insert, at, column->cur_value_len ? 0 : 1);
@@ -118,8 +121,9 @@ void BindRaw(sqlite3_stmt* insert, int at, MdbHandle* mdb, const MdbColumn* colu
             sqlite3_bind_int64(insert, at, money);
             break;
         default: {
-            const int length = mdb_unicode2ascii(mdb, reinterpret_cast<const char*>(bytes),
-                                                 static_cast<std::size_t>(column->cur_value_len), text, room);
+            const int length =
+                mdb_unicode2ascii(mdb, reinterpret_cast<const char*>(bytes),
+                                  static_cast<std::size_t>(column->cur_value_len), text, room);
             sqlite3_bind_text(insert, at, text, length, SQLITE_TRANSIENT);
         }
     }
@@ -128,7 +132,8 @@ void BindRaw(sqlite3_stmt* insert, int at, MdbHandle* mdb, const MdbColumn* colu
 /// The peer: libmdb's rows, raw, into SQLite.
 void ReadByLibmdb(const std::string& file) {
     MdbHandle* mdb = mdb_open(file.c_str(), MDB_NOFLAGS);
-    if (!mdb || !mdb_read_catalog(mdb, MDB_TABLE)) throw std::runtime_error("libmdb can't open the file");
+    if (!mdb || !mdb_read_catalog(mdb, MDB_TABLE))
+        throw std::runtime_error("libmdb can't open the file");
     char name[] = "AC File";
     MdbTableDef* table = mdb_read_table_by_name(mdb, name, MDB_TABLE);
     mdb_read_columns(table);
@@ -141,12 +146,14 @@ void ReadByLibmdb(const std::string& file) {
     }
     Must(sqlite3_exec(database, (create + ")").c_str(), nullptr, nullptr, nullptr));
     sqlite3_stmt* insert = nullptr;
-    Must(sqlite3_prepare_v2(database, ("INSERT INTO t VALUES (" + marks + ")").c_str(), -1, &insert, nullptr));
+    Must(sqlite3_prepare_v2(database, ("INSERT INTO t VALUES (" + marks + ")").c_str(), -1, &insert,
+                            nullptr));
     char text[1024];
     int rows = 0;
     while (mdb_fetch_row(table)) {
         for (unsigned i = 0; i < table->num_cols; ++i) {
-            const auto* column = static_cast<const MdbColumn*>(g_ptr_array_index(table->columns, i));
+            const auto* column =
+                static_cast<const MdbColumn*>(g_ptr_array_index(table->columns, i));
             BindRaw(insert, static_cast<int>(i) + 1, mdb, column, text, sizeof text);
         }
         Must(sqlite3_step(insert), SQLITE_DONE);
@@ -164,7 +171,8 @@ void ReadByLibmdb(const std::string& file) {
 void ReadByTendo(const std::string& file) {
     Database database = Database::OpenDatabase(file);
     Recordset rows = database.OpenRecordset(TableName);
-    if (rows.RecordCount() != RowCount) throw std::runtime_error("tendo read the wrong number of rows");
+    if (rows.RecordCount() != RowCount)
+        throw std::runtime_error("tendo read the wrong number of rows");
 }
 
 }  // namespace
@@ -173,8 +181,8 @@ bool ModelDatabaseRead(const std::string& folder) {
     const std::string file = WithSeparator(folder) + "models120000.mdb";
     if (!FileExists(file)) WriteModels(file);
     const auto medians = Medians({[&] { ReadByTendo(file); }, [&] { ReadByLibmdb(file); }}, 9);
-    const bool speed = Report("model database of 120,000 rows into SQLite (libmdb)", medians[0] * 1000,
-                              medians[1] * 1000, "ms", 1.0, true);
+    const bool speed = Report("model database of 120,000 rows into SQLite (libmdb)",
+                              medians[0] * 1000, medians[1] * 1000, "ms", 1.0, true);
     const double size = static_cast<double>(FileLength(file));
     const double peak = PeakGrowth([&] { ReadByTendo(file); });
     return Report("its memory (the file's size)", peak / 1e6, size / 1e6, "MB", 2.0, true) && speed;

@@ -31,9 +31,11 @@ ProjectRecords FullProject() {
         row.LaborDescription = "Labor line " + std::to_string(i);
     }
     for (int i = 0; i < 20; ++i)
-        records.ProjectFootNotes.push_back({"Footnote " + std::to_string(i), std::string(2000, 'x')});
+        records.ProjectFootNotes.push_back(
+            {"Footnote " + std::to_string(i), std::string(2000, 'x')});
     records.gvNumOfFootnotes = 20;
-    for (auto& model : records.CLGModelData) model.ModelNum = "FA-3614";
+    for (auto& model : records.CLGModelData)
+        model.ModelNum = "FA-3614";
     return records;
 }
 
@@ -56,7 +58,8 @@ std::vector<PlainTable> RowsOf(const std::string& file) {
         Recordset rows = database.OpenRecordset(name);
         for (; !rows.EOF_(); rows.MoveNext()) {
             jet::Row row;
-            for (std::size_t i = 0; i < table.width; ++i) row.push_back(rows.Get(static_cast<int>(i)));
+            for (std::size_t i = 0; i < table.width; ++i)
+                row.push_back(rows.Get(static_cast<int>(i)));
             table.rows.push_back(std::move(row));
         }
         tables.push_back(std::move(table));
@@ -83,26 +86,30 @@ void WriteTable(sqlite3* database, const PlainTable& table) {
         columns += (i ? ",c" : "c") + std::to_string(i);
         marks += i ? ",?" : "?";
     }
-    Must(sqlite3_exec(database, ("CREATE TABLE \"" + table.name + "\" (" + columns + ")").c_str(), nullptr, nullptr,
-                      nullptr));
+    Must(sqlite3_exec(database, ("CREATE TABLE \"" + table.name + "\" (" + columns + ")").c_str(),
+                      nullptr, nullptr, nullptr));
     sqlite3_stmt* insert = nullptr;
-    Must(sqlite3_prepare_v2(database, ("INSERT INTO \"" + table.name + "\" VALUES (" + marks + ")").c_str(), -1,
-                            &insert, nullptr));
+    Must(sqlite3_prepare_v2(database,
+                            ("INSERT INTO \"" + table.name + "\" VALUES (" + marks + ")").c_str(),
+                            -1, &insert, nullptr));
     for (const jet::Row& row : table.rows) {
-        for (std::size_t i = 0; i < row.size(); ++i) Bind(insert, static_cast<int>(i) + 1, row[i]);
+        for (std::size_t i = 0; i < row.size(); ++i)
+            Bind(insert, static_cast<int>(i) + 1, row[i]);
         Must(sqlite3_step(insert), SQLITE_DONE);
         Must(sqlite3_reset(insert));
     }
     sqlite3_finalize(insert);
 }
 
-/// The peer: the same rows into a fresh SQLite file, in one transaction, synced as SQLite does by default.
+/// The peer: the same rows into a fresh SQLite file, in one transaction, synced as SQLite does by
+/// default.
 void SaveBySqlite(const std::string& file, const std::vector<PlainTable>& tables) {
     std::remove(file.c_str());
     sqlite3* database = nullptr;
     Must(sqlite3_open(file.c_str(), &database));
     Must(sqlite3_exec(database, "BEGIN", nullptr, nullptr, nullptr));
-    for (const PlainTable& table : tables) WriteTable(database, table);
+    for (const PlainTable& table : tables)
+        WriteTable(database, table);
     Must(sqlite3_exec(database, "COMMIT", nullptr, nullptr, nullptr));
     sqlite3_close(database);
 }
@@ -117,10 +124,10 @@ bool ProjectSave(const std::string& folder) {
     SaveProjectData(file, records);
     const auto tables = RowsOf(file);
     const std::string peer = WithSeparator(folder) + "full.sqlite";
-    const auto medians = Medians(
-        {[&] { SaveProjectData(file, records); }, [&] { SaveBySqlite(peer, tables); }}, 25);
-    return Report("saving a full project (SQLite, written and synced)", medians[0] * 1000, medians[1] * 1000, "ms",
-                  3.0, true);
+    const auto medians =
+        Medians({[&] { SaveProjectData(file, records); }, [&] { SaveBySqlite(peer, tables); }}, 25);
+    return Report("saving a full project (SQLite, written and synced)", medians[0] * 1000,
+                  medians[1] * 1000, "ms", 3.0, true);
 }
 
 }  // namespace tendo::bench

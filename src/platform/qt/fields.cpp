@@ -10,16 +10,16 @@ namespace {
 
 std::function<void(TextField*)> entryObserver;
 
-bool IsNumberKind(FieldKind kind) {
-    return kind == FieldKind::Money || kind == FieldKind::Percent || kind == FieldKind::Count;
+bool IsNumberKind(EntryKind kind) {
+    return kind == EntryKind::Money || kind == EntryKind::Percent || kind == EntryKind::Count;
 }
 
 /// The keys of the numeric kinds: digits; one point; one minus sign where negative numbers may be
 /// typed.
-bool NumberKeyAllowed(FieldKind kind, QChar key, const QString& rest) {
+bool NumberKeyAllowed(EntryKind kind, QChar key, const QString& rest) {
     if (key.isDigit()) return true;
-    if (key == '.') return kind != FieldKind::Count && !rest.contains('.');
-    if (key == '-') return kind == FieldKind::Percent && !rest.contains('-');
+    if (key == '.') return kind != EntryKind::Count && !rest.contains('.');
+    if (key == '-') return kind == EntryKind::Percent && !rest.contains('-');
     return false;
 }
 
@@ -39,10 +39,10 @@ TextField::TextField(const FieldSpec& spec, QWidget* parent) : QLineEdit(parent)
     if (spec.width > 0) {
         const int width = fontMetrics().averageCharWidth() * spec.width + 24;
         setMinimumWidth(width);
-        if (kind_ != FieldKind::Text && kind_ != FieldKind::Label) setMaximumWidth(width * 2);
+        if (kind_ != EntryKind::Text && kind_ != EntryKind::Label) setMaximumWidth(width * 2);
     }
-    const bool computed = kind_ == FieldKind::Figure || kind_ == FieldKind::Label;
-    if (kind_ != FieldKind::Text && kind_ != FieldKind::Label)
+    const bool computed = kind_ == EntryKind::Figure || kind_ == EntryKind::Label;
+    if (kind_ != EntryKind::Text && kind_ != EntryKind::Label)
         setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     if (computed) {
         setReadOnly(true);
@@ -65,7 +65,7 @@ void TextField::Prepare() {
 }
 
 void TextField::ShowSigns() {
-    if (kind_ == FieldKind::Text || kind_ == FieldKind::Label) return;
+    if (kind_ == EntryKind::Text || kind_ == EntryKind::Label) return;
     SetStyleFlag(this, "negative", text().startsWith('-'));
     SetStyleFlag(this, "word", text() == "same");
 }

@@ -11,8 +11,8 @@ class QGridLayout;
 
 namespace tendo {
 
-/// What may be typed into a field and how it stands.
-enum class FieldKind {
+/// What may be typed into an entry line and how it stands.
+enum class EntryKind {
     Text,     // any text, left
     Money,    // digits and one point, right
     Percent,  // digits, one point, one minus sign, right
@@ -25,7 +25,7 @@ enum class FieldKind {
 struct FieldSpec {
     const char* name;   // control name
     const char* label;  // with its mnemonic; also the accessible name when none is given
-    FieldKind kind = FieldKind::Text;
+    EntryKind kind = EntryKind::Text;
     int width = 0;  // characters; 0: as wide as there is room
     int maxLength = 32767;
     const char* range = "";  // for the status bar: "0.00 to 9,999,999.99"
@@ -56,7 +56,7 @@ class TextField : public QLineEdit {
     /// Marks the figure as changed by the last edit, for two seconds.
     void MarkFresh();
 
-    FieldKind Kind() const { return kind_; }
+    EntryKind Kind() const { return kind_; }
     QString RangeText, UnitText;
 
     /// Called when a field is entered (status bar) and with nullptr when it is left.
@@ -77,7 +77,7 @@ class TextField : public QLineEdit {
     void ShowSigns();
     void setFocusProxyTarget(QWidget* next) { passTo_ = next; }
 
-    FieldKind kind_ = FieldKind::Text;
+    EntryKind kind_ = EntryKind::Text;
     QWidget* passTo_ = nullptr;
     QTimer freshTimer_;
     bool committing_ = false;

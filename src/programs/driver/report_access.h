@@ -17,7 +17,5 @@ Json DocumentAsJson();
 std::size_t DocumentPageCount();
 /// The text of page `number`, counted from 1, in reading order.
 std::string DocumentPageText(int number);
-/// Writes the last report as PDF.
-void WriteDocumentPdf(const std::string& path);
 
 }  // namespace tendo::driver

@@ -1,0 +1,35 @@
+#include <QApplication>
+#include <QCommandLineParser>
+
+#include "app/screens/application.h"
+#include "platform/qt/theme.h"
+
+namespace {
+
+tendo::StartOptions ReadOptions(const QApplication& application) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription("HVAC Estimating and Sales Proposal Program");
+    const QCommandLineOption home("home", "The program directory.", "DIR");
+    const QCommandLineOption winIni("win-ini", "The file with section \"Velmo Software\".", "FILE");
+    const QCommandLineOption today("today", "The day to take for today.", "DATE");
+    parser.addOptions({home, winIni, today});
+    parser.addHelpOption();
+    parser.addPositionalArgument("FILE", "A project file.", "[FILE]");
+    parser.process(application);
+    tendo::StartOptions options;
+    options.home = parser.value(home).toStdString();
+    options.winIni = parser.value(winIni).toStdString();
+    options.today = parser.value(today).toStdString();
+    for (const QString& word : parser.positionalArguments())
+        options.args.push_back(word.toStdString());
+    return options;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    tendo::ApplyTheme(application);
+    if (!tendo::StartTendo(ReadOptions(application))) return 1;
+    return QApplication::exec();
+}
