@@ -56,6 +56,8 @@ TEST(CodePages, TheBytesOfATextFileTellTheirCode) {
                                 "\0c\0\xE9"s),
               "cé");
     EXPECT_EQ(FromTextFileBytes(""), "");
+    EXPECT_EQ(FromTextFileBytes("\xEF\xBB\xBF\xEF\xBB\xBFx"), "x");
+    EXPECT_EQ(FromTextFileBytes("\xFE\xFF\xFE\xFF\0x"s), "x");
 }
 
 }  // namespace

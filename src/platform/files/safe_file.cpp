@@ -29,7 +29,8 @@ std::string FinalTarget(std::string_view path) {
     for (int i = 0; i < LongestLinkChain; ++i) {
         char link[4096];
         const ssize_t length = ::readlink(target.c_str(), link, sizeof link);
-        if (length <= 0) return target;
+        if (length < 0 && (errno == EINVAL || errno == ENOENT)) return target;  // no link
+        if (length <= 0) ThrowFileError("write", path, errno);
         const std::string_view next(link, static_cast<std::size_t>(length));
         target = next.front() == PathSeparator ? std::string(next)
                                                : DirectoryOf(target) + std::string(next);

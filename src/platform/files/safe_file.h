@@ -14,7 +14,9 @@ std::string ReadWholeFile(std::string_view path, std::uint64_t limit = std::uint
 /// Writes a new file beside the target, flushes and checks it, renames it over the target and
 /// flushes the folder. A symbolic link is followed, permissions are kept. Until the rename the old
 /// file stays whole; when anything fails nothing is changed, the new file is removed, and the
-/// RuntimeError (61 for a full disk, 70, 76) names the file and the cause.
+/// RuntimeError names the file and the cause: 61 for a full disk, 70 when it may not be written, 76
+/// for a path that leads nowhere, 57 when the disk fails, 75 otherwise. A device or a pipe is
+/// written to as it is.
 void ReplaceFile(std::string_view path, std::string_view bytes);
 
 /// The same for content that is written in pieces: `write` is called once with a function that

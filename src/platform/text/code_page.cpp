@@ -14,6 +14,8 @@ constexpr char16_t HighControls[32] = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+
 char ByteOf(char32_t codePoint) {
     if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint <= 0xFF)) {
         return static_cast<char>(codePoint);
@@ -77,13 +79,19 @@ std::string ToWindows1252(std::string_view text) {
 }
 
 std::string FromTextFileBytes(std::string_view bytes) {
-    if (bytes.starts_with("\xEF\xBB\xBF")) {
-        const std::string_view text = bytes.substr(3);
-        return IsUtf8(text) ? std::string(text) : FromWindows1252(text);
+    std::string text;
+    if (bytes.starts_with("\xFF\xFE")) {
+        text = FromUtf16(bytes.substr(2));
+    } else if (bytes.starts_with("\xFE\xFF")) {
+        text = FromUtf16(BytesSwapped(bytes.substr(2)));
+    } else {
+        const std::string_view content = bytes.substr(bytes.starts_with(Utf8Mark) ? 3 : 0);
+        text = IsUtf8(content) ? std::string(content) : FromWindows1252(content);
     }
-    if (bytes.starts_with("\xFF\xFE")) return FromUtf16(bytes.substr(2));
-    if (bytes.starts_with("\xFE\xFF")) return FromUtf16(BytesSwapped(bytes.substr(2)));
-    return IsUtf8(bytes) ? std::string(bytes) : FromWindows1252(bytes);
+    // A file that was put together from others has a second mark; what is read is text only.
+    while (text.starts_with(Utf8Mark))
+        text.erase(0, Utf8Mark.size());
+    return text;
 }
 
 std::string FromUtf16(std::string_view bytes) {
