@@ -12,6 +12,49 @@
 namespace tendo {
 namespace {
 
+/// One system call of a save and a failure of it.
+struct Failure {
+    const char* name;
+    void (*install)(SystemCallTable&);
+    int number;
+};
+
+const Failure Failures[] = {
+    {"open",
+     [](SystemCallTable& t) {
+         t.open = [](const char*, int, mode_t) { return errno = EROFS, -1; };
+     },
+     error_number::PermissionDenied},
+    {"write",
+     [](SystemCallTable& t) {
+         t.write = [](int, const void*, size_t) { return errno = ENOSPC, ssize_t{-1}; };
+     },
+     error_number::DiskFull},
+    {"a write of nothing",
+     [](SystemCallTable& t) { t.write = [](int, const void*, size_t) { return ssize_t{0}; }; },
+     error_number::DiskFull},
+    {"fstat",
+     [](SystemCallTable& t) { t.fstat = [](int, struct stat*) { return errno = EIO, -1; }; },
+     error_number::DeviceError},
+    {"a size that is not what was written",
+     [](SystemCallTable& t) {
+         t.write = [](int, const void*, size_t size) { return static_cast<ssize_t>(size); };
+     },
+     error_number::DeviceError},
+    {"fchmod", [](SystemCallTable& t) { t.fchmod = [](int, mode_t) { return errno = EPERM, -1; }; },
+     error_number::PermissionDenied},
+    {"fsync", [](SystemCallTable& t) { t.fsync = [](int) { return errno = EDQUOT, -1; }; },
+     error_number::DiskFull},
+    {"close",
+     [](SystemCallTable& t) { t.close = [](int file) { return ::close(file), errno = EIO, -1; }; },
+     error_number::DeviceError},
+    {"rename",
+     [](SystemCallTable& t) {
+         t.rename = [](const char*, const char*) { return errno = EACCES, -1; };
+     },
+     error_number::PermissionDenied},
+};
+
 class SafeFile : public TestFolder {
   protected:
     ~SafeFile() override { SystemCalls() = SystemCallTable(); }
@@ -116,50 +159,7 @@ TEST_F(SafeFile, AFullDiskIsCalledAFullDisk) {
 TEST_F(SafeFile, AFailingCallLeavesTheOldFileAndNothingElse) {
     Put("a", "old");
     ::chmod(Path("a").c_str(), 0640);  // so that the mode has to be set
-    struct Failure {
-        const char* name;
-        void (*install)(SystemCallTable&);
-        int number;
-    };
-    const Failure failures[] = {
-        {"open",
-         [](SystemCallTable& t) {
-             t.open = [](const char*, int, mode_t) { return errno = EROFS, -1; };
-         },
-         error_number::PermissionDenied},
-        {"write",
-         [](SystemCallTable& t) {
-             t.write = [](int, const void*, size_t) { return errno = ENOSPC, ssize_t{-1}; };
-         },
-         error_number::DiskFull},
-        {"a write of nothing",
-         [](SystemCallTable& t) { t.write = [](int, const void*, size_t) { return ssize_t{0}; }; },
-         error_number::DiskFull},
-        {"fstat",
-         [](SystemCallTable& t) { t.fstat = [](int, struct stat*) { return errno = EIO, -1; }; },
-         error_number::DeviceError},
-        {"a size that is not what was written",
-         [](SystemCallTable& t) {
-             t.write = [](int, const void*, size_t size) { return static_cast<ssize_t>(size); };
-         },
-         error_number::DeviceError},
-        {"fchmod",
-         [](SystemCallTable& t) { t.fchmod = [](int, mode_t) { return errno = EPERM, -1; }; },
-         error_number::PermissionDenied},
-        {"fsync", [](SystemCallTable& t) { t.fsync = [](int) { return errno = EDQUOT, -1; }; },
-         error_number::DiskFull},
-        {"close",
-         [](SystemCallTable& t) {
-             t.close = [](int file) { return ::close(file), errno = EIO, -1; };
-         },
-         error_number::DeviceError},
-        {"rename",
-         [](SystemCallTable& t) {
-             t.rename = [](const char*, const char*) { return errno = EACCES, -1; };
-         },
-         error_number::PermissionDenied},
-    };
-    for (const Failure& failure : failures) {
+    for (const Failure& failure : Failures) {
         failure.install(SystemCalls());
         EXPECT_EQ(ErrorOf(Path("a"), [&] { ReplaceFile(Path("a"), "new"); }), failure.number)
             << failure.name;

@@ -120,6 +120,8 @@ TEST(LeadingNumbers, StayWithinTheRangeOfTheType) {
     EXPECT_EQ(LeadingLong("-1e30"), 0);
     EXPECT_EQ(LeadingSingle("8.25"), 8.25f);
     EXPECT_EQ(LeadingSingle("1e39"), 0.0f);
+    EXPECT_EQ(LeadingSingle("3.4028235E+38"), std::numeric_limits<float>::max());
+    EXPECT_EQ(LeadingSingle("&HFF"), 255.0f);
     EXPECT_EQ(LeadingInteger("2.5"), 2);  // a half goes to the even number
     EXPECT_EQ(LeadingInteger("3.5"), 4);
 }

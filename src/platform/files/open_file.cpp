@@ -61,7 +61,7 @@ void OpenFile::SetMode(mode_t mode) {
 }
 
 void OpenFile::TryOwner(uid_t owner, gid_t group) {
-    if (SystemCalls().fchown(file_, owner, group) != 0) errno = 0;
+    SystemCalls().fchown(file_, owner, group);
 }
 
 void OpenFile::Close() {

@@ -20,6 +20,7 @@ struct DateTime {
 /// Days since 30 December 1899 with the time of day as fraction, the form of dates in database
 /// files.
 double SerialOfDate(const DateTime& date);
+/// To the second; a serial outside the years 100 to 9999 gives the zero day, 30 December 1899.
 DateTime DateOfSerial(double serial);
 /// 0 = Sunday.
 int DayOfWeek(const DateTime& date);

@@ -174,7 +174,7 @@ bool ScanLeadingNumber(std::string_view text, ScannedNumber& number) {
     return true;
 }
 
-bool ScanHexadecimal(std::string_view text, double& value) {
+bool ScanHexadecimal(std::string_view text, std::int32_t& value) {
     Scanner scanner(text);
     scanner.SkipBlanks();
     if (scanner.Peek() != '&') return false;

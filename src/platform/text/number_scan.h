@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,6 @@ bool ScanLeadingNumber(std::string_view text, ScannedNumber& number);
 /// "&HFF". Up to four digits are a 16-bit number and up to eight a 32-bit one, both with sign
 /// ("&HFFFF" is -1); an ampersand behind the digits makes it 32-bit. False when it doesn't begin
 /// so.
-bool ScanHexadecimal(std::string_view text, double& value);
+bool ScanHexadecimal(std::string_view text, std::int32_t& value);
 
 }  // namespace tendo

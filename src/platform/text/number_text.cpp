@@ -24,6 +24,15 @@ bool ValueOf(const ScannedNumber& scanned, Number& value) {
     return true;
 }
 
+template <typename Number>
+Number Leading(std::string_view text) {
+    std::int32_t bits = 0;
+    if (ScanHexadecimal(text, bits)) return static_cast<Number>(bits);
+    Number value = 0;
+    ScannedNumber scanned;
+    return ScanLeadingNumber(text, scanned) && ValueOf(scanned, value) ? value : 0;
+}
+
 template <typename Integer>
 Integer WholeNumber(double value) {
     const double rounded = std::nearbyint(value);
@@ -64,10 +73,7 @@ bool ReadNumber(std::string_view text, double& value) {
 }
 
 double LeadingNumber(std::string_view text) {
-    double value = 0;
-    if (ScanHexadecimal(text, value)) return value;
-    ScannedNumber scanned;
-    return ScanLeadingNumber(text, scanned) && ValueOf(scanned, value) ? value : 0;
+    return Leading<double>(text);
 }
 
 std::int16_t LeadingInteger(std::string_view text) {
@@ -79,9 +85,7 @@ std::int32_t LeadingLong(std::string_view text) {
 }
 
 float LeadingSingle(std::string_view text) {
-    const double value = LeadingNumber(text);
-    if (std::fabs(value) > static_cast<double>(std::numeric_limits<float>::max())) return 0;
-    return static_cast<float>(value);
+    return Leading<float>(text);
 }
 
 std::string PlainNumberText(float value) {
