@@ -12,6 +12,7 @@
 #include "project/program_state.h"
 #include "project/project_lifecycle.h"
 #include "project/project_records.h"
+#include "reports/report_settings.h"
 
 namespace tendo {
 namespace {
@@ -51,6 +52,8 @@ void ReadConfiguration() {
     Ini().AppProfileFileName = state.ProfileFile;
     PrepareColors(Colors());
     SetStartValues(Project(), state.CommonDirectory);
+    ReadReportSettings();
+    ReadOwner();
     state.DialogBackgroundColor = lightGrey;
     state.ProjectChanged = false;
     state.LogoFileName = logoFile;

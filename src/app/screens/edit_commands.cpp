@@ -1,0 +1,58 @@
+#include "app/screens/edit_commands.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+namespace tendo {
+namespace {
+
+/// Hands the focused text field to `act`, whichever of the three kinds it is.
+template <class Act>
+void WithTextField(Act act) {
+    QWidget* focus = QApplication::focusWidget();
+    if (auto* line = qobject_cast<QLineEdit*>(focus))
+        act(line);
+    else if (auto* plain = qobject_cast<QPlainTextEdit*>(focus))
+        act(plain);
+    else if (auto* rich = qobject_cast<QTextEdit*>(focus))
+        act(rich);
+}
+
+void DeleteSelection(QLineEdit* field) {
+    if (!field->isReadOnly() && field->hasSelectedText()) field->del();
+}
+
+template <class Edit>
+void DeleteSelection(Edit* field) {
+    if (!field->isReadOnly()) field->textCursor().removeSelectedText();
+}
+
+}  // namespace
+
+void mnuEditUndo_Click() {
+    WithTextField([](auto* field) { field->undo(); });
+}
+
+void mnuEditCut_Click() {
+    WithTextField([](auto* field) { field->cut(); });
+}
+
+void mnuEditCopy_Click() {
+    WithTextField([](auto* field) { field->copy(); });
+}
+
+void mnuEditPaste_Click() {
+    WithTextField([](auto* field) { field->paste(); });
+}
+
+void mnuEditDelete_Click() {
+    WithTextField([](auto* field) { DeleteSelection(field); });
+}
+
+void mnuEditSelectAll_Click() {
+    WithTextField([](auto* field) { field->selectAll(); });
+}
+
+}  // namespace tendo

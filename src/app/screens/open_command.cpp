@@ -1,0 +1,268 @@
+#include "app/screens/open_command.h"
+
+#include <QString>
+
+#include "app/screens/bar.h"
+#include "app/screens/frm_temp_file.h"
+#include "app/screens/pointer.h"
+#include "app/screens/project_commands.h"
+#include "app/screens/screen_table.h"
+#include "app/startup.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
+#include "platform/qt/dialogs.h"
+#include "platform/text/runtime_error.h"
+#include "platform/text/text.h"
+#include "project/program_state.h"
+#include "project/project_lifecycle.h"
+#include "project/project_records.h"
+
+namespace tendo {
+namespace {
+
+constexpr const char* openErrorTitle = "Project File Open Error";
+
+/// The work file's name of the project that is to be opened.
+std::string TempFileBeside() {
+    const std::string& name = State().ProjectFileName;
+    return std::string(FirstCharacters(name, CharacterCount(name) - 4)) + ".tmp";
+}
+
+/// One run of the command. Each step answers whether the command goes on; its number is what a
+/// failure's message tells as the location.
+class OpenCommand {
+  public:
+    void Run();
+
+  private:
+    enum class Next { GoOn, Opened, Stop };
+
+    bool NameIsReady() const;
+    Next OpenReadyName();
+    Next RecoverUntitled();
+    Next OpenChosenFile();
+    bool LeaveOpenProject();
+    void ChooseFile();
+    bool IsDosProject() const;
+    Next OpenBesideTempFile();
+    void OpenFromProjectFile();
+    void OpenFromWorkFile();
+    void Finish();
+    Next TempFileFailed();
+
+    const std::string oldName_ = State().ProjectFileName;
+    std::string dialogName_;
+    int step_ = 0;
+};
+
+void OpenCommand::Run() {
+    HourglassPointer();
+    CloseProjectWindows();
+    mnuFileClose_Click();
+    Next next = Next::Stop;
+    if (NameIsReady())
+        next = OpenReadyName();
+    else if (State().StartingUp && UntitledWorkFileExists())
+        next = RecoverUntitled();
+    else
+        next = OpenChosenFile();
+    if (next == Next::Opened) Finish();
+}
+
+bool OpenCommand::NameIsReady() const {
+    return UpperCase(LastCharacters(State().FileToOpen, 4)) == ".TDW" && !State().OpenNamedFile;
+}
+
+OpenCommand::Next OpenCommand::OpenReadyName() {
+    try {
+        State().ProjectFileName = State().FileToOpen;
+        OpenFromProjectFile();
+        State().FileToOpen.clear();
+        return Next::Opened;
+    } catch (const RuntimeError& error) {
+        ShowMessage(
+            openErrorTitle,
+            "An error occured while trying to open your project.  If you have specified to "
+            "open your last used project upon startup, check that file to make sure that it "
+            "has not been moved or damaged.");
+        ShowMessage(openErrorTitle, error.Description());
+        State().ProjectFileName = oldName_;
+        NormalPointer();
+        return Next::Stop;
+    }
+}
+
+OpenCommand::Next OpenCommand::RecoverUntitled() {
+    const Answer answer =
+        Ask("Unsaved Temporary File Exists",
+            "An unsaved temporary file left by a previous TENDO session has been found.  This is a "
+            "file the was in the process of being edited when Tendo or Windows encountered a "
+            "problem.  TENDO will attempt to recover this file.",
+            Buttons::OkCancel, MessageIcon::None);
+    if (answer != Answer::Ok) return Next::Stop;  // the hourglass stays until the next command ends
+    try {
+        State().WorkFileName = State().ProjectsDirectory + "Untitled.tmp";
+        State().ProjectFileName = State().ProjectsDirectory + "Untitled.hid";
+        CopyFileOver(State().WorkFileName, State().ProjectFileName);
+        LoadWorkFile();
+        State().ProjectIsOpen = true;
+        return Next::Opened;
+    } catch (const RuntimeError&) {
+        return TempFileFailed();
+    }
+}
+
+OpenCommand::Next OpenCommand::TempFileFailed() {
+    ShowMessage(openErrorTitle,
+                "An error occured while trying to open the temp file left from your project.  The "
+                "file must not be usable.");
+    NormalPointer();
+    return Next::Stop;
+}
+
+OpenCommand::Next OpenCommand::OpenChosenFile() {
+    try {
+        step_ = 4;
+        if (!LeaveOpenProject()) {
+            NormalPointer();
+            return Next::Stop;
+        }
+        ChooseFile();
+        step_ = 8;
+        if (IsDosProject()) {
+            ShowMessage(
+                "Tendo",
+                "This is a DOS TENDO Project File.  Please select Convert DOS TENDO Project "
+                "Files from the File menu.");
+            return Next::Stop;  // the hourglass stays until the next command ends
+        }
+        step_ = 9;
+        if (FileExists(TempFileBeside())) return OpenBesideTempFile();
+        step_ = 11;
+        OpenFromProjectFile();
+        return Next::Opened;
+    } catch (const RuntimeError& error) {
+        ShowMessage(
+            std::string(openErrorTitle) + " " + std::to_string(error.Number()),
+            "An error occurred while trying to open your project.  The project that was open "
+            "when you attempted this operation is the current project.\nLocation = " +
+                std::to_string(step_));
+        State().ProjectFileName = oldName_;
+        NormalPointer();
+        return Next::Stop;
+    }
+}
+
+bool OpenCommand::LeaveOpenProject() {
+    SaveWorkFile();
+    CloseProjectWindows();
+    if (State().StartingUp || !State().ProjectIsOpen || !State().ProjectChanged) return true;
+    const SaveQuestion answer = AskToSaveProject();
+    if (answer == SaveQuestion::Save) mnuFileSave_Click();
+    return answer != SaveQuestion::Stop;
+}
+
+void OpenCommand::ChooseFile() {
+    step_ = 5;
+    dialogName_ = State().FileToOpen;
+    if (!State().OpenNamedFile) {
+        // A cancel leaves the old name: the same project is opened anew from its file, which is
+        // meant.
+        dialogName_ = Dialogs()
+                          .File({.kind = FileDialog::Kind::Open,
+                                 .title = "Open",
+                                 .filter = "TENDO File (*.TDW)|*.TDW",
+                                 .fileName = "*.TDW",
+                                 .folder = State().ProjectsDirectory,
+                                 .defaultExtension = ""})
+                          .value_or(oldName_);
+    }
+    step_ = 6;
+    if (!State().StartingUp && State().ProjectIsOpen) {
+        DeleteWorkFile();
+        State().ProjectIsOpen = false;
+    }
+    step_ = 7;
+    State().ProjectFileName = dialogName_;
+    if (!Contains(BaseName(dialogName_), ".")) State().ProjectFileName += ".tdw";
+}
+
+bool OpenCommand::IsDosProject() const {
+    const std::uint64_t length = FileLength(State().ProjectFileName);
+    return length > 3860 && length < 3880;
+}
+
+OpenCommand::Next OpenCommand::OpenBesideTempFile() {
+    step_ = 10;
+    try {
+        const int choice = AskAboutTempFile(StemOf(TempFileBeside()) + ".TMP");
+        if (choice == 3) {
+            State().ProjectFileName = oldName_;
+            NormalPointer();
+            return Next::Stop;
+        }
+        if (choice == 1) {
+            OpenFromWorkFile();
+        } else {
+            State().ProjectIsOpen = false;
+            OpenFromProjectFile();
+        }
+        return Next::Opened;
+    } catch (const RuntimeError&) {
+        return TempFileFailed();
+    }
+}
+
+void OpenCommand::OpenFromProjectFile() {
+    ResetProjectData();
+    MakeFileExtensions();
+    CopyFileOver(State().ProjectFileName, State().WorkFileName);
+    LoadWorkFile();
+    State().ProjectIsOpen = true;
+}
+
+void OpenCommand::OpenFromWorkFile() {
+    ResetProjectData();
+    MakeFileExtensions();
+    CopyFileOver(State().WorkFileName, State().ProjectFileName);
+    LoadWorkFile();
+    State().ProjectIsOpen = true;
+}
+
+void OpenCommand::Finish() {
+    if (UpperCase(BaseName(State().ProjectFileName)) != "UNTITLED.HID") AddRecentFile();
+    ShowProjectCaption();
+    MainBar().EnableActiveBarTools();
+    ShowScreen("frmGPD");
+    NormalPointer();
+}
+
+}  // namespace
+
+void mnuFileOpen_Click() {
+    OpenCommand().Run();
+}
+
+void RecentFile_Click(int number) {
+    const std::vector<std::string> names = RecentFiles();
+    const auto place = static_cast<std::size_t>(number - 1);
+    if (place >= names.size() || names[place].empty()) return;
+    State().OpenNamedFile = true;
+    State().FileToOpen = std::string(Trimmed(names[place]));
+    mnuFileOpen_Click();
+    State().OpenNamedFile = false;
+    State().FileToOpen.clear();  // nothing waits any longer; the next Open asks again
+}
+
+void MDIForm_OLEDragDrop(const std::vector<std::string>& files) {
+    if (files.size() > 1) {
+        ShowMessage("Too Many Files Dropped", "Only one file may be dropped into TENDO at a time.");
+        return;
+    }
+    // Small letters only, and anywhere in the name.
+    if (files.empty() || !Contains(files.front(), ".tdw")) return;
+    State().FileToOpen = std::string(Trimmed(files.front()));
+    mnuFileOpen_Click();
+}
+
+}  // namespace tendo

@@ -1,0 +1,228 @@
+#include "app/screens/project_commands.h"
+
+#include <QApplication>
+#include <QLabel>
+
+#include "app/command_table.h"
+#include "app/screens/bar.h"
+#include "app/screens/pointer.h"
+#include "app/screens/screen_table.h"
+#include "platform/files/ini_file_handler.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
+#include "platform/qt/dialogs.h"
+#include "platform/text/date_text.h"
+#include "platform/text/number_text.h"
+#include "platform/text/runtime_error.h"
+#include "platform/text/text.h"
+#include "project/program_state.h"
+#include "project/project_lifecycle.h"
+#include "project/project_records.h"
+
+namespace tendo {
+namespace {
+
+constexpr const char* untitledName = "UNTITLED.HID";
+
+void ShowCaption(const std::string& caption) {
+    if (Form* main = Form::Find("frmMDI")) main->setWindowTitle(QString::fromStdString(caption));
+}
+
+bool IsUntitled() {
+    return UpperCase(LastCharacters(State().ProjectFileName, 12)) == untitledName;
+}
+
+/// Gives the open project up for another. False when its user keeps it.
+bool LeaveOpenProject() {
+    if (State().StartingUp || !State().ProjectIsOpen) return true;
+    if (State().ProjectChanged) {
+        const SaveQuestion answer = AskToSaveProject();
+        if (answer == SaveQuestion::Stop) return false;
+        if (answer == SaveQuestion::Save) mnuFileSave_Click();
+    }
+    DeleteWorkFile();
+    State().ProjectIsOpen = false;
+    return true;
+}
+
+/// The text behind the first point of a base name is another extension than the project's.
+bool HasForeignExtension(const std::string& fileName) {
+    const std::string name = BaseName(fileName);
+    const std::size_t point = name.find('.');
+    return point != std::string::npos && UpperCase(name.substr(point + 1)) != "TDW";
+}
+
+/// The name that the project is to have, asked for until it has no foreign extension; empty on
+/// cancel.
+std::string AskProjectName() {
+    const FileDialog dialog{.kind = FileDialog::Kind::Save,
+                            .title = "Save As",
+                            .filter = "TENDO File (*.tdw)|*.tdw",
+                            .fileName = "*.tdw",
+                            .folder = State().ProjectsDirectory,
+                            .defaultExtension = "tdw",
+                            .promptOnOverwrite = true};
+    for (;;) {
+        const std::optional<std::string> chosen = Dialogs().File(dialog);
+        if (!chosen) return {};
+        if (!HasForeignExtension(*chosen))
+            return *chosen + (Contains(BaseName(*chosen), ".") ? "" : ".tdw");
+        // The message names the extension of the DOS release; it stands so.
+        ShowMessage("File Save As Error",
+                    "It is not necessary to specify the filename's extension.  Although, if you "
+                    "specify the filename's extension, it must be \"tdo\".",
+                    MessageIcon::Information);
+    }
+}
+
+void SaveUnderName(const std::string& fileName) {
+    CopyFileOver(State().WorkFileName, fileName);
+    DeleteWorkFile();
+    State().ProjectFileName = fileName;
+    MakeFileExtensions();
+    CopyFileOver(State().ProjectFileName, State().WorkFileName);
+    ShowProjectCaption();
+    State().ProjectChanged = false;
+}
+
+}  // namespace
+
+void CloseProjectWindows() {
+    QList<QPointer<Form>> forms;
+    for (Form* form : Form::Loaded())
+        forms.append(form);
+    for (const QPointer<Form>& form : forms) {
+        if (!form) continue;
+        const QString name = form->Name();
+        if (name != "frmMDI" && name != "frmPrint" && name != "frmExplorer") form->Unload();
+    }
+}
+
+SaveQuestion AskToSaveProject() {
+    switch (Ask("Project has changed",
+                "The project file has changed.  Do you wish to save this project?",
+                Buttons::YesNoCancel)) {
+        case Answer::Yes:
+            return SaveQuestion::Save;
+        case Answer::No:
+            return SaveQuestion::Discard;
+        default:
+            return SaveQuestion::Stop;
+    }
+}
+
+void CheckSaveOnClose() {
+    if (!State().ProjectIsOpen || !State().ProjectChanged) return;
+    switch (AskToSaveProject()) {
+        case SaveQuestion::Save:
+            mnuFileSave_Click();
+            if (!State().SaveCancelled) DeleteWorkFile();
+            break;
+        case SaveQuestion::Discard:
+            DeleteWorkFile();
+            State().ProjectIsOpen = false;
+            break;
+        case SaveQuestion::Stop:
+            State().SaveCancelled = true;
+    }
+}
+
+void ShowProjectCaption() {
+    ShowCaption(ProjectCaption());
+}
+
+void BuildRecentFilesMenu() {
+    const std::vector<std::string> names = RecentFiles();
+    for (int i = 0; i < RecentToolCount; ++i) {
+        const auto place = static_cast<std::size_t>(i);
+        MainBar().SetRecentFile(i + 1, place < names.size() ? names[place] : std::string());
+    }
+}
+
+void AddRecentFile() {
+    AddToRecentFiles(State().ProjectFileName);
+    BuildRecentFilesMenu();
+}
+
+void WriteLastOpened() {
+    // Capitals never equal small letters, so the value is always empty: meant, no project opens by
+    // itself.
+    const bool named = UpperCase(LastCharacters(State().ProjectFileName, 4)) == ".tdw";
+    Ini().MyWriteAppProfileString("RecentFiles", "LastOpened",
+                                  named ? State().ProjectFileName : std::string());
+}
+
+void mnuFileNew_Click() {
+    HourglassPointer();
+    CloseProjectWindows();
+    if (!LeaveOpenProject()) return NormalPointer();
+    State().ProjectFileName = State().ProjectsDirectory + "Untitled.hid";
+    MakeFileExtensions();
+    CopyAutoloadProject();
+    SaveWorkFile();
+    CopyFileOver(State().WorkFileName, State().ProjectFileName);
+    State().ProjectIsOpen = true;
+    State().ProjectChanged = false;
+    ShowProjectCaption();
+    MainBar().EnableActiveBarTools();
+    Project().GPDProjectFormat.Date = ShortDateText(Now());
+    ShowScreen("frmGPD");
+    NormalPointer();
+}
+
+void mnuFileClose_Click() {
+    CheckSaveOnClose();
+    CloseProjectWindows();
+    MainBar().DisableActiveBarTools();
+    ShowCaption("Quick Tendo");
+    WriteLastOpened();
+}
+
+void mnuFileSave_Click() {
+    HourglassPointer();
+    if (IsUntitled()) {
+        mnuFileSaveAs_Click();
+    } else {
+        SaveWorkFile();
+        CopyFileOver(State().WorkFileName, State().ProjectFileName);
+    }
+    // ProjectChanged stays set: the question comes up on closing all the same.
+    AddRecentFile();
+    NormalPointer();
+}
+
+void mnuFileSaveAs_Click() {
+    HourglassPointer();
+    const std::string oldName = State().ProjectFileName;
+    try {
+        SaveWorkFile();
+        const std::string name = AskProjectName();
+        if (!name.empty())
+            SaveUnderName(name);
+        else if (State().ClosingDown)
+            State().SaveCancelled = true;
+    } catch (const RuntimeError&) {
+        State().ProjectFileName = oldName;
+        ShowMessage("Save Project File Error",
+                    "An error occured while trying to save your project.  No file was saved.");
+    }
+    NormalPointer();
+}
+
+void tmrAutoSave_Timer() {
+    if (Ini().MyGetAppProfileInteger("Options", "AutoSave", -1) != 1) return;
+    const auto interval = static_cast<std::int32_t>(
+        ValueOfText(Ini().MyGetAppProfileString("Options", "AutoSaveInterval", "5")));
+    if (State().AutosaveCounter < interval - 1) {
+        ++State().AutosaveCounter;
+        return;
+    }
+    ShowAutosavePanel("Autosaving...");
+    QApplication::processEvents();
+    SaveWorkFile();
+    QApplication::processEvents();
+    State().AutosaveCounter = 0;
+    ShowAutosavePanel("");
+}
+
+}  // namespace tendo

@@ -1,0 +1,92 @@
+#include "app/screens/window_commands.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+#include "app/screens/project_commands.h"
+#include "platform/qt/form.h"
+
+namespace tendo {
+namespace {
+
+/// Screens that keep their own size.
+const char* const fixedForms[] = {"frmMDI",      "frmPrint",       "frmExplorer", "BrowseForm",
+                                  "frmAbout",    "frmColorSelect", "frmHelpInfo", "frmSplash",
+                                  "frmTempFile", "frmTip",         "frmPreview"};
+
+bool KeepsItsSize(const QString& name) {
+    return std::any_of(std::begin(fixedForms), std::end(fixedForms),
+                       [&](const char* fixed) { return name == fixed; });
+}
+
+QList<QMdiSubWindow*> OpenWindows(bool minimized) {
+    QList<QMdiSubWindow*> windows;
+    if (const QMdiArea* area = Form::Workspace())
+        for (QMdiSubWindow* window : area->subWindowList())
+            if (window->isVisible() && window->isMinimized() == minimized) windows.append(window);
+    return windows;
+}
+
+void FillWorkspace(QMdiSubWindow* window) {
+    window->showNormal();
+    window->setGeometry(Form::Workspace()->viewport()->rect());
+}
+
+/// Lays the windows out as bands, one below the other or side by side.
+void Tile(bool side) {
+    const QList<QMdiSubWindow*> windows = OpenWindows(false);
+    if (windows.isEmpty()) return;
+    const QRect room = Form::Workspace()->viewport()->rect();
+    const int count = static_cast<int>(windows.size());
+    for (int i = 0; i < count; ++i) {
+        const int from = (side ? room.width() : room.height()) * i / count;
+        const int to = (side ? room.width() : room.height()) * (i + 1) / count;
+        windows[i]->showNormal();
+        windows[i]->setGeometry(side ? QRect(from, 0, to - from, room.height())
+                                     : QRect(0, from, room.width(), to - from));
+    }
+}
+
+}  // namespace
+
+void mnuWindowCascade_Click() {
+    if (QMdiArea* area = Form::Workspace()) area->cascadeSubWindows();
+}
+
+void mnuWindowTileHorizontal_Click() {
+    Tile(false);
+}
+
+void mnuWindowTileVertical_Click() {
+    Tile(true);
+}
+
+void mnuWindowArrange_Click() {
+    int left = 0;
+    for (QMdiSubWindow* window : OpenWindows(true)) {
+        window->move(left, Form::Workspace()->viewport()->height() - window->height());
+        left += window->width();
+    }
+}
+
+void mnuWindowResetToFullSize_Click() {
+    Form* active = Form::Active();
+    if (active && active->SubWindow() && !KeepsItsSize(active->Name()))
+        FillWorkspace(active->SubWindow());
+}
+
+void mnuWindowResetAllToFullSize_Click() {
+    for (Form* form : Form::Loaded())
+        if (form->SubWindow() && form->SubWindow()->isVisible() && !KeepsItsSize(form->Name()))
+            FillWorkspace(form->SubWindow());
+}
+
+void mnuWindowCloseWindow_Click() {
+    if (Form* active = Form::Active()) active->Unload();
+}
+
+void mnuWindowCloseAllProjectWindows_Click() {
+    CloseProjectWindows();
+}
+
+}  // namespace tendo
