@@ -1,0 +1,16 @@
+# What a package holds: the programs, the files that come with them, the guide.
+include(GNUInstallDirs)
+install(TARGETS tendo tendo-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(DIRECTORY ${PROJECT_BINARY_DIR}/share/tendo DESTINATION ${CMAKE_INSTALL_DATADIR})
+install(DIRECTORY docs/guide docs/pictures DESTINATION ${CMAKE_INSTALL_DATADIR}/tendo/docs)
+install(FILES data/tendo.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES data/icons/tendo.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME tendo)
+set(CPACK_PACKAGE_CONTACT "The Tendo developers <tendo@example.invalid>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Estimating and sales proposals for HVAC contractors")
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation")
+set(CPACK_DEBIAN_PACKAGE_SECTION office)
+include(CPack)
