@@ -19,6 +19,7 @@ constexpr int BorderPen = 15;
 constexpr int HeaderCentre = 374;  // of the grey band above the text, 2 to 50 hundredths
 constexpr int FooterTop = Bottom + 60;
 constexpr int RunningFieldWidth = 5000;
+constexpr int SpaceBehindRichText = 100;  // parts one footnote from the next
 constexpr int BoxBorder = 4;
 constexpr int Rectangle = 2;
 constexpr int SolidBrush = 0;
@@ -149,10 +150,11 @@ int LayoutSurface::PenTwips() const {
 void LayoutSurface::WriteParagraph(std::string_view text) {
     flow_.EnsurePage();
     const RichRun format = TextFormat();
-    const RichText rich = Number(SurfaceOp::AutoRTF) != 0 ? ReadRichOrPlainText(text, format)
-                                                          : PlainAsRich(text, format);
+    const bool autoRich = Number(SurfaceOp::AutoRTF) != 0;
+    const RichText rich = autoRich ? ReadRichOrPlainText(text, format) : PlainAsRich(text, format);
     for (const RichParagraph& paragraph : rich.paragraphs)
         WriteRich(paragraph);
+    if (autoRich && IsRichText(text)) flow_.y += SpaceBehindRichText;
     flow_.x = Left;
 }
 

@@ -26,9 +26,11 @@ void PageFlow::NewPage() {
 }
 
 void PageFlow::OpenPage() {
+    if (HasPage()) {  // the pen may be set before the first page opens
+        x = page_geometry::Left;
+        y = page_geometry::Top;
+    }
     document_.pages.emplace_back();
-    x = page_geometry::Left;
-    y = page_geometry::Top;
     if (onOpen) onOpen();
 }
 

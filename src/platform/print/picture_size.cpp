@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <cstdlib>
 #include <fstream>
+#include <vector>
 
+#include "platform/text/number_text.h"
 #include "platform/text/text.h"
 
 namespace tendo {
@@ -39,8 +41,8 @@ PictureSize JpegSize(const Bytes& bytes) {
     std::size_t at = 2;
     while (at + 9 < bytes.Size()) {
         const std::uint32_t marker = bytes.At(at + 1);
-        const bool frame = marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 &&
-                           marker != 0xCC;
+        const bool frame =
+            marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
         if (bytes.At(at) != 0xFF) return {};
         if (frame) return {bytes.Big16(at + 7), bytes.Big16(at + 5)};
         at += 2 + static_cast<std::size_t>(bytes.Big16(at + 2));
@@ -60,6 +62,16 @@ int Distance(std::int64_t from, std::int64_t to) {
 
 int Dimension(std::int32_t value) {
     return Distance(0, value);
+}
+
+/// The extent of a vector picture's view box, "0 0 640 160"; an SVG without one has no size.
+std::optional<PictureSize> SvgSize(std::string_view text) {
+    const std::size_t at = text.find("viewBox=");
+    if (at == std::string_view::npos || at + 9 >= text.size()) return std::nullopt;
+    const std::string_view rest = text.substr(at + 9);
+    const std::vector<std::string> numbers = Split(rest.substr(0, rest.find_first_of("\"'")), ' ');
+    if (numbers.size() != 4) return std::nullopt;
+    return PictureSize{Dimension(LeadingLong(numbers[2])), Dimension(LeadingLong(numbers[3]))};
 }
 
 }  // namespace
@@ -84,6 +96,7 @@ std::optional<PictureSize> PictureSizeOf(std::string_view data) {
     if (bytes.Little32(0) == 1 && bytes.Little32(40) == 0x464D4520)
         return PictureSize{Distance(bytes.Little32(24), bytes.Little32(32)),
                            Distance(bytes.Little32(28), bytes.Little32(36))};
+    if (Contains(data.substr(0, 4096), "<svg")) return SvgSize(data.substr(0, 4096));
     return std::nullopt;
 }
 

@@ -12,8 +12,8 @@ struct PictureSize {
     int height = 0;
 };
 
-/// Reads the size from the head of a picture file: PNG, JPEG, GIF, BMP, icon, placeable and enhanced
-/// metafile. Nothing when the file is missing or none of these.
+/// Reads the size from the head of a picture file: PNG, JPEG, GIF, BMP, icon, SVG, placeable and
+/// enhanced metafile. Nothing when the file is missing or none of these.
 std::optional<PictureSize> ReadPictureSize(const std::string& path);
 /// The same from the file's bytes.
 std::optional<PictureSize> PictureSizeOf(std::string_view bytes);

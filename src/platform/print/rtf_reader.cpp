@@ -107,6 +107,8 @@ void RtfReader::CloseGroup() {
         --tooDeep_;
         return;
     }
+    const bool last = wholeDocument_ && states_.size() == 2;
+    if (last && !runs_.empty()) EndParagraph();
     if (states_.size() > 1) states_.pop_back();
     if (states_.size() == 1 && wholeDocument_) at_ = text_.size();
 }

@@ -90,27 +90,32 @@ class TableWriter {
     }
 
     void WriteRow(const RowLayout& row) {
-        if (!flow_.Fits(Height(row))) {
-            if (row.blank) return;  // a spacer at the foot of a page parts nothing
-            BreakPage();
-        }
+        if (!flow_.Fits(Height(row)) && row.blank) return;  // parts nothing at the foot of a page
+        const int page = page_geometry::Bottom - page_geometry::Top - HeaderHeight();
+        if (!flow_.Fits(Height(row)) && Height(row) <= page) BreakPage();
         if (flow_.Fits(Height(row)))
             Place(row, 0, row.lines);
         else
             WriteByLines(row);
     }
 
-    /// A row higher than a page: as many lines as the page takes, at least one.
+    int HeaderHeight() const { return header_ ? Height(*header_) : 0; }
+
+    /// A row higher than a page: as many lines as each page takes, at least one.
     void WriteByLines(const RowLayout& row) {
         std::size_t from = 0;
         while (from < row.lines) {
-            if (from > 0) BreakPage();
-            const int room = (page_geometry::Bottom - flow_.y - 2 * RowPadding) / lineHeight_;
+            if (from > 0 || LinesThatFit() == 0) BreakPage();
             const std::size_t count =
-                std::min(row.lines - from, static_cast<std::size_t>(std::max(room, 1)));
+                std::min(row.lines - from, std::max<std::size_t>(LinesThatFit(), 1));
             Place(row, from, count);
             from += count;
         }
+    }
+
+    std::size_t LinesThatFit() const {
+        const int room = (page_geometry::Bottom - flow_.y - 2 * RowPadding) / lineHeight_;
+        return static_cast<std::size_t>(std::max(room, 0));
     }
 
     void Place(const RowLayout& row, std::size_t from, std::size_t count) {

@@ -1,8 +1,6 @@
 #include "platform/qt/painter_page.h"
 
-#include <QApplication>
 #include <QBuffer>
-#include <QIcon>
 #include <QPainter>
 #include <QPixmap>
 #include <QSvgRenderer>
@@ -10,6 +8,7 @@
 
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
+#include "platform/qt/icons.h"
 #include "platform/qt/text_measurer_qt.h"
 #include "platform/text/runtime_error.h"
 
@@ -18,6 +17,7 @@ namespace tendo {
 namespace {
 
 constexpr double TwipsPerInch = 1440;
+constexpr QColor IconColor(0x1C, 0x25, 0x30);
 
 QPen PenOf(Rgb color, int width) {
     QPen pen(QColor::fromRgb(color));
@@ -43,9 +43,10 @@ void Paint(QPainter& painter, const LineItem& line) {
 
 void Paint(QPainter& painter, const PictureItem& picture) {
     const QRectF box = RectOf(picture);
+    if (box.isEmpty()) return;
     if (picture.path == ProgramIconPicture) {
-        const QPixmap icon = QApplication::windowIcon().pixmap(128, 128);
-        if (!icon.isNull()) painter.drawPixmap(box, icon, QRectF(icon.rect()));
+        const QPixmap icon = LinePixmap(QStringLiteral("tendo"), IconColor, 128);
+        painter.drawPixmap(box, icon, QRectF(icon.rect()));
         return;
     }
     const QString path = QString::fromStdString(picture.path);

@@ -1,21 +1,29 @@
 #include "platform/qt/painter_pdf_outline.h"
 
 #include <algorithm>
+#include <charconv>
 #include <optional>
 #include <string_view>
 #include <vector>
 
-#include "platform/text/number_text.h"
 #include "platform/text/text.h"
 
 namespace tendo {
 
 namespace {
 
+/// The first number of a text behind white space; -1 when there is none.
+int FirstNumber(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(" \r\n"), text.size()));
+    int number = -1;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
 /// The number behind a key of a dictionary, "/Root 1 0 R" gives 1; -1 without the key.
 int NumberBehind(std::string_view text, std::string_view key) {
     const std::size_t at = text.find(key);
-    return at == std::string_view::npos ? -1 : LeadingLong(text.substr(at + key.size()));
+    return at == std::string_view::npos ? -1 : FirstNumber(text.substr(at + key.size()));
 }
 
 /// The dictionary of an object, with its brackets; empty when there is none.
@@ -72,7 +80,8 @@ class PdfUpdate {
         previous_ = NumberBehind(tail, "startxref");
         const std::string catalog(ObjectText(pdf_, root_)), info(ObjectText(pdf_, info_));
         const std::vector<int> pages = PageObjects(catalog);
-        if (catalog.empty() || info.empty() || size_ <= 0 || pages.empty()) return std::move(pdf_);
+        if (catalog.empty() || info.empty() || size_ <= 0 || previous_ <= 0 || pages.empty())
+            return std::move(pdf_);
         nextObject_ = size_;
         AddObject(info_, Extended(info, "/Author " + PdfString(document_.author)));
         if (!document_.outline.empty()) AddOutline(catalog, pages);
@@ -98,7 +107,7 @@ class PdfUpdate {
         std::string_view kids = tree.substr(open + 1, tree.find(']') - open - 1);
         for (std::size_t at = kids.find(" 0 R"); at != std::string_view::npos;
              at = kids.find(" 0 R")) {
-            pages.push_back(LeadingLong(Replaced(kids.substr(0, at), "\n", " ")));
+            pages.push_back(FirstNumber(kids.substr(0, at)));
             kids.remove_prefix(at + 4);
         }
         return pages;
