@@ -10,9 +10,11 @@
 #include "platform/files/safe_file.h"
 #include "platform/text/code_page.h"
 #include "platform/text/text.h"
+#include "pricing/price_table.h"
 #include "pricing/relations.h"
 #include "project/program_state.h"
 #include "project/project_file.h"
+#include "project/record_access.h"
 
 namespace tendo {
 namespace {
@@ -211,6 +213,16 @@ TEST_F(SampleJob, ItsTotalIsSubTotalAndTax) {
     EXPECT_GT(table.TotalSalePrice, 10000.0F);
     EXPECT_LT(table.TotalSalePrice, 20000.0F);
     EXPECT_GT(table.Profit, 0.0F);
+}
+
+TEST_F(SampleJob, LookingAtItsPriceTableChangesNothing) {
+    const nlohmann::json before = RecordsAsJson(job);
+    PriceTable table(job);
+    table.Open();
+    table.Close();
+    const nlohmann::json after = RecordsAsJson(job);
+    EXPECT_EQ(after.at("SystemTendos"), before.at("SystemTendos"));
+    EXPECT_EQ(after, before);
 }
 
 TEST_F(SampleJob, ItsModelRowWeighsEveryModel) {

@@ -55,6 +55,10 @@ void PriceJob(ProjectRecords& records) {
     table.SetText(TableField::ModelGrossMargin, ModelMargin);
     table.Commit(TableField::ModelGrossMargin);
     table.Close();
+    // The last look before handing the job over: it settles the margin of the Total row, which
+    // the edit had still worked out from the former total.
+    table.Open();
+    table.Close();
 }
 
 }  // namespace tendo
