@@ -87,7 +87,7 @@ const Command fixedCommands[] = {
     {"ToolKORVA", "mnuToolsKORVA_Click", "Tools", "&KORVA", "", ""},
     {"ToolPYROS", "mnuToolsPYROS_Click", "Tools", "&PYROS", "", ""},
     {"ToolMELDA", "mnuToolsMELDA_Click", "Tools", "&MELDA", "", ""},
-    {"ToolBRAVOLIN", "", "Tools", "&BRAVOLIN", "", ""},
+    {"ToolBRAVOLIN", "", "Tools", "BR&AVOLIN", "", ""},
     {"ToolCalculator", "mnuToolsCalculator_Click", "Tools", "&Calculator", "", "calculator", false,
      Group},
     {"ToolAlignTop", "mnuToolbarAlignTop_Click", "Tools", "Align Toolbar at &Top", "", "", false,

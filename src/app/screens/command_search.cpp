@@ -52,6 +52,7 @@ void CommandSearch::Refill() {
         if (!*command.procedure || !MainBar().CanUse(command.tool)) continue;
         auto* item = new QStandardItem(EntryText(command, *MainBar().Find(command.tool)));
         item->setData(QString::fromLatin1(command.tool), toolRole);
+        item->setSizeHint(QSize(0, fontMetrics().height() + 12));
         item->setEditable(false);
         model_.appendRow(item);
     }

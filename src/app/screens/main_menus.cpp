@@ -99,7 +99,7 @@ void MainMenus::MakeMenus() {
 void MainMenus::MakeToolbar() {
     toolbar_ = window_->addToolBar("Main Toolbar");
     toolbar_->setObjectName("MainToolbar");
-    toolbar_->setMovable(true);
+    toolbar_->setMovable(false);
     toolbar_->setFloatable(false);
     toolbar_->setContextMenuPolicy(Qt::PreventContextMenu);
     for (const char* tool : MainToolbarTools()) {

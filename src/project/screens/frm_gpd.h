@@ -38,8 +38,7 @@ class frmGPD : public Form {
     QWidget* MakePage(GPDTab tab, const char* caption);
     void AddTexts(QGridLayout* grid, GPDTab tab, QWidget* page);
     void AddText(QGridLayout* grid, const GPDText& text, QWidget* page);
-    void AddContactRow(QGridLayout* grid, const FieldSpec& spec, const char* button,
-                       const char* caption, QWidget* page);
+    void AddContacts(QGridLayout* grid, QWidget* page);
     void AddPricing(QGridLayout* grid, QWidget* page);
     void AddDatabase(QGridLayout* grid, QWidget* page);
     void AddImport(QGridLayout* grid, QWidget* page);

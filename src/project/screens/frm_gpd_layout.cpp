@@ -17,6 +17,8 @@ namespace {
 
 constexpr int storeInterval = 1000;  // milliseconds
 constexpr int memoLines = 3;
+constexpr int buttonWidth = 104;
+constexpr int labelWidth = 112;  // one width on all tabs
 
 QPushButton* MakeButton(const char* name, const char* caption, QWidget* parent) {
     auto* button = new QPushButton(caption, parent);
@@ -67,15 +69,10 @@ QWidget* frmGPD::MakePage(GPDTab tab, const char* caption) {
     grid->setContentsMargins(0, 16, 0, 0);
     grid->setHorizontalSpacing(16);
     grid->setVerticalSpacing(8);
+    grid->setColumnMinimumWidth(0, labelWidth);
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(1, 380);
     AddTexts(grid, tab, page);
-    if (tab == GPDTab::Client) {
-        AddContactRow(grid, {.name = "txtClientEmailAddress", .label = "&Email"},
-                      "cmdClientEmailAddress", "Send Email", page);
-        AddContactRow(grid, {.name = "txtClientWebPage", .label = "&Web page"}, "cmdClientWebPage",
-                      "Go There", page);
-    }
     if (tab == GPDTab::Project) {
         AddPricing(grid, page);
         AddDatabase(grid, page);
@@ -87,8 +84,11 @@ QWidget* frmGPD::MakePage(GPDTab tab, const char* caption) {
 }
 
 void frmGPD::AddTexts(QGridLayout* grid, GPDTab tab, QWidget* page) {
-    for (const GPDText& text : GPDTexts())
-        if (text.tab == tab) AddText(grid, text, page);
+    for (const GPDText& text : GPDTexts()) {
+        if (text.tab != tab) continue;
+        if (text.memo && tab == GPDTab::Client) AddContacts(grid, page);
+        AddText(grid, text, page);
+    }
     for (const GPDCheck& check : GPDChecks()) {
         if (check.tab != tab) continue;
         auto* box = new QCheckBox(check.caption, page);
@@ -133,12 +133,26 @@ void frmGPD::ControlChanged() {
     Store();
 }
 
-void frmGPD::AddContactRow(QGridLayout* grid, const FieldSpec& spec, const char* button,
-                           const char* caption, QWidget* page) {
-    const int row = grid->rowCount();
-    auto* field = new TextField(spec, page);
-    grid->addWidget(MakeLabel(spec.label, field, page), row, 0);
-    grid->addLayout(Row({field, MakeButton(button, caption, page)}, false), row, 1);
+void frmGPD::AddContacts(QGridLayout* grid, QWidget* page) {
+    struct Contact {
+        FieldSpec spec;
+        const char* button;
+        const char* caption;
+    };
+    // Nothing keeps these two: what is typed there is lost with the form.
+    const Contact contacts[] = {
+        {{.name = "txtClientEmailAddress", .label = "&Email"},
+         "cmdClientEmailAddress",
+         "Send Email"},
+        {{.name = "txtClientWebPage", .label = "&Web page"}, "cmdClientWebPage", "Go There"}};
+    for (const Contact& contact : contacts) {
+        const int row = grid->rowCount();
+        auto* field = new TextField(contact.spec, page);
+        QPushButton* button = MakeButton(contact.button, contact.caption, page);
+        button->setMinimumWidth(buttonWidth);
+        grid->addWidget(MakeLabel(contact.spec.label, field, page), row, 0);
+        grid->addLayout(Row({field, button}, false), row, 1);
+    }
 }
 
 void frmGPD::AddPair(QGridLayout* grid, const PairSpec& pair, QWidget* page) {
