@@ -51,7 +51,7 @@ std::string CheckToSeeIfDbaseExists(std::string_view name) {
 }
 
 std::string CheckToSeeIfDbaseExists(std::string_view name, std::string_view defaultDB) {
-    const std::string fileName = WithModelExtension(Trimmed(name));
+    std::string fileName = WithModelExtension(Trimmed(name));
     if (FileExists(fileName)) return fileName;
     return State().CommonDirectory + WithModelExtension(Trimmed(defaultDB));
 }
