@@ -122,7 +122,13 @@ void PriceTable::KeepExact(TableField field) {
     float& exact = Exact(field);
     const bool ofModelRow = description.row == price_row::Model;
     const float reference = ofModelRow ? records_.SystemTendos.*description.column : exact;
-    if (FarApart(Value(field), reference)) exact = Value(field);
+    if (FarApart(Value(field), reference)) {
+        exact = Value(field);
+    } else if (FarApart(exact, reference)) {
+        // What stands near the stored percentage means that one, also when nothing was edited since
+        // opening.
+        exact = reference;
+    }
 }
 
 void PriceTable::ProfitChanged() {

@@ -182,6 +182,31 @@ TEST_F(LinePricingTable, ASmallEditOfTheModelMarginGoesOnWithTheExactValue) {
     EXPECT_EQ(Text(Field::ModelSalePrice), "$1,129.69");  // 750 / 0.6639 = 1129.688
 }
 
+TEST_F(LinePricingTable, ASmallEditInASavedProjectGoesOnWithTheStoredMargin) {
+    GiveModel(750);
+    tendos().ModelSalePrice = 1000;
+    tendos().ModelGrossMargin = 25;
+    table.Open();
+    Enter(Field::ModelGrossMargin, "25.1");  // exactly 0.1 from the stored one
+    EXPECT_EQ(Text(Field::ModelSalePrice), "$1,000.00");
+    Enter(Field::ModelGrossMargin, "24.9");             // 0.2 from the 25.1 stored by now
+    EXPECT_EQ(Text(Field::ModelSalePrice), "$998.67");  // 750 / 0.751 = 998.668
+}
+
+TEST_F(LinePricingTable, TabbingThroughTheModelRowOfASavedProjectKeepsItsPrice) {
+    GiveModel(750);
+    tendos().ModelSalePrice = 1000;
+    tendos().ModelGrossMargin = 25;
+    tendos().ModelPriceMarkup = 33.333333F;
+    table.Open();
+    table.FieldChanged = true;  // as an edit of another row leaves it
+    table.Commit(Field::ModelGrossMargin);
+    EXPECT_EQ(Text(Field::ModelSalePrice), "$1,000.00");
+    table.FieldChanged = true;
+    table.Commit(Field::ModelPriceMarkup);
+    EXPECT_EQ(Text(Field::ModelSalePrice), "$1,000.00");  // from the exact third, not from 33.3
+}
+
 TEST_F(LinePricingTable, OtherRowsMeasureAnEditAgainstTheExactValueItself) {
     tendos().LaborDealerCost = 100;
     tendos().LaborSalePrice = 150;
