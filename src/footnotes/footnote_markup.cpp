@@ -5,6 +5,22 @@
 
 namespace tendo {
 
+namespace {
+
+void DropBehindEnd(std::vector<std::string>& paragraphs) {
+    bool ended = false;
+    for (std::string& text : paragraphs) {
+        const std::size_t end = text.find(EndToken);
+        if (ended)
+            text = "{}";
+        else if (end != std::string::npos)
+            text = text.substr(0, end) + "}";
+        ended = ended || end != std::string::npos;
+    }
+}
+
+}  // namespace
+
 std::vector<std::string> FootnoteParagraphs(std::string_view description, float finalPrice) {
     std::string text =
         Replaced(description, FinalPriceToken, FormatNumber(finalPrice, "$###,###,##0.00"));
@@ -14,9 +30,8 @@ std::vector<std::string> FootnoteParagraphs(std::string_view description, float 
         paragraphs.push_back(text.substr(0, at) + "}");
         text = "{" + text.substr(at + PageBreakToken.size());
     }
-    const std::size_t end = text.find(EndToken);
-    if (end != std::string::npos) text = text.substr(0, end) + "}";
     paragraphs.push_back(std::move(text));
+    DropBehindEnd(paragraphs);
     return paragraphs;
 }
 

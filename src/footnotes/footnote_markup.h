@@ -11,10 +11,10 @@ inline constexpr std::string_view FinalPriceToken = "<$$$$>";
 inline constexpr std::string_view PageBreakToken = "<PAGE>";
 inline constexpr std::string_view EndToken = "<STOP>";
 
-/// The paragraphs that a footnote prints, with a new page between one and the next: the final price
-/// is put in first, then the text is cut at its page breaks, and what is left is cut at its end
-/// marker. So a page break behind an end marker still breaks the page. Braces close and reopen the
-/// rich text around a cut.
+/// The paragraphs that a footnote prints, with a new page between one and the next. The final price
+/// is put in first, then the text is cut at its page breaks, and only then its end marker drops
+/// what follows: a page break behind an end marker still breaks the page, and nothing but an empty
+/// group follows it. Braces close and reopen the rich text around a cut.
 std::vector<std::string> FootnoteParagraphs(std::string_view description, float finalPrice);
 
 }  // namespace tendo

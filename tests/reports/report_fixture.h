@@ -1,0 +1,60 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "platform/print/fixed_measurer.h"
+#include "platform/print/layout_surface.h"
+#include "platform/print/recording_surface.h"
+#include "project/project_records.h"
+#include "reports/preview_code.h"
+
+namespace tendo {
+
+/// A call as the goldens write it: its name and its values; a table with a line for each of its
+/// rows.
+std::string CallText(const SurfaceCall& call);
+
+/// A project whose figures tell where they come from: system n has the cooling model "CN-n" with a
+/// capacity of 30 + n, and so on; see the source.
+ProjectRecords SampleProject();
+/// Fills the models, prices and operating costs of one system, from 0.
+void FillSystem(ProjectRecords& project, int system);
+
+/// Reports on the fixed font, with a profile of their own, a company, and 9 May 1998 as today.
+class ReportTest : public testing::Test {
+  protected:
+    ReportTest();
+    ~ReportTest() override;
+
+    /// Sets an option of section "ReportOptions" or "BannerOptions" and reads the cached ones
+    /// again.
+    void Option(const std::string& key, const std::string& value);
+    void BannerOption(const std::string& key, const std::string& value);
+    /// A small picture file of a given size in the test's own folder; gives its path.
+    std::string MakePicture(const std::string& name, int width, int height);
+
+    /// All calls since the document's start as golden text; the test's folder is written as
+    /// "FOLDER".
+    std::string CallsText() const;
+    /// Compares the calls with tests/reports/goldens/NAME; lines that begin with '#' explain it.
+    void ExpectGolden(const std::string& name) const;
+    /// The values of all calls of one name, in order.
+    std::vector<std::string> ValuesOf(const std::string& op) const;
+    /// The body rows of the last table, each without its semicolon.
+    std::vector<std::string> LastTableRows() const;
+    const SurfaceCall& LastTable() const;
+    int CountOf(const std::string& op) const;
+
+    std::filesystem::path folder;
+    ProjectRecords project;
+    FixedMeasurer measurer;
+    LayoutSurface layout{measurer};
+    RecordingSurface surface{layout};
+    ReportContext context{surface, project};
+};
+
+}  // namespace tendo

@@ -1,0 +1,102 @@
+#include "reports/sales_report.h"
+
+#include <gmock/gmock.h>
+
+#include "report_fixture.h"
+#include "reports/generate_reports.h"
+
+namespace tendo {
+namespace {
+
+class SalesReport : public ReportTest {
+  protected:
+    std::string Summary() const { return ProjectSummaryBody(project); }
+};
+
+TEST_F(SalesReport, IsWrittenAsTold) {
+    FillSystem(project, 0);
+    project.ProjectFootNotes.push_back({"Terms", "{\\rtf1 Price <$$$$>}"});
+    project.gvNumOfFootnotes = 1;
+    EXPECT_TRUE(PreviewSalesOnly(context));
+    ExpectGolden("sales_one_system.txt");
+}
+
+TEST_F(SalesReport, WithoutFootnotesHasNoSuchHeading) {
+    FillSystem(project, 0);
+    PreviewSalesOnly(context);
+    EXPECT_THAT(ValuesOf("Paragraph"), testing::Not(testing::Contains("Footnotes")));
+    EXPECT_EQ(CountOf("AutoRTF"), 0);
+}
+
+TEST_F(SalesReport, WithoutAPricedSystemHasNoTable) {
+    PreviewSalesOnly(context);
+    EXPECT_EQ(CountOf("AddTable"), 1);  // the Project Summary
+    EXPECT_THAT(ValuesOf("Paragraph"), testing::Contains("Sales Report"));
+}
+
+TEST_F(SalesReport, ASectionWithoutAnInchOfRoomGoesToANewPage) {
+    surface.Action(3);
+    surface.CurrentY(ToTwips(900));
+    CheckPageRoom(surface);
+    EXPECT_EQ(CountOf("NewPage"), 0);
+    surface.CurrentY(ToTwips(900) + 1);
+    CheckPageRoom(surface);
+    EXPECT_EQ(CountOf("NewPage"), 1);
+}
+
+TEST_F(SalesReport, TheSummaryHoldsTwoPairsARow) {
+    EXPECT_EQ(Summary(),
+              "||Company:|Northfield Air;"
+              "Client:|Dana Marlow|Company Rep:|Robin Vance;"
+              "||ID Number:|MN-4471;"
+              "Address:|12 Maple Street|Address:|480 Foundry Rd;"
+              "City:|Alden, MN 56009|City:|Alden, MN 56007;"
+              "Phone:|(507) 555-0142|Phone:|(507) 555-0100;"
+              "Fax:|(507) 555-0143|Fax:|(507) 555-0101;");
+}
+
+TEST_F(SalesReport, WithoutTheRepresentativeTheCompanyStandsInTheClientsRow) {
+    Option("CompanyRep", "0");
+    EXPECT_THAT(Summary(), testing::StartsWith("Client:|Dana Marlow|Company:|Northfield Air;"
+                                               "||ID Number:|MN-4471;"));
+}
+
+TEST_F(SalesReport, TheIdNumberNeedsItsOptionAndAValue) {
+    Option("CompanyID", "0");
+    EXPECT_THAT(Summary(), testing::Not(testing::HasSubstr("ID Number:")));
+    Option("CompanyID", "1");
+    project.GPDCompanyFormat.CompanyIDNumber = "";
+    EXPECT_THAT(Summary(), testing::Not(testing::HasSubstr("ID Number:")));
+}
+
+TEST_F(SalesReport, AClientWithNoFaxAndClientFaxOnStillShowsTheLabel) {
+    project.GPDClientFormat.Fax = "";
+    EXPECT_THAT(Summary(), testing::EndsWith("Fax:||Fax:|(507) 555-0101;"));
+}
+
+TEST_F(SalesReport, TheFaxRowShowsTheSidesThatAreMarked) {
+    Option("ClientFax", "0");
+    EXPECT_THAT(Summary(), testing::EndsWith(";||Fax:|(507) 555-0101;"));
+    Option("CompanyFax", "0");
+    EXPECT_THAT(Summary(), testing::EndsWith("Phone:|(507) 555-0100;"));
+    Option("ClientFax", "1");
+    EXPECT_THAT(Summary(), testing::EndsWith(";Fax:|(507) 555-0143||;"));
+}
+
+TEST_F(SalesReport, BothCommentsEmptyGiveNoCommentRow) {
+    EXPECT_THAT(Summary(), testing::Not(testing::HasSubstr("Comment:")));
+}
+
+TEST_F(SalesReport, ACommentIsShownWhenItIsThereAndMayBePrinted) {
+    project.GPDClientFormat.Comment = "Dog in yard";
+    EXPECT_THAT(Summary(), testing::EndsWith(";Comment:|Dog in yard||;"));
+    project.GPDCompanyFormat.Comment = "Licensed";
+    EXPECT_THAT(Summary(), testing::EndsWith(";Comment:|Dog in yard|Comment:|Licensed;"));
+    project.GPDClientFormat.ClientPrintComment = 0;
+    EXPECT_THAT(Summary(), testing::EndsWith(";||Comment:|Licensed;"));
+    project.GPDCompanyFormat.CompanyPrintComment = 0;
+    EXPECT_THAT(Summary(), testing::EndsWith("(507) 555-0101;|||;"));  // the row stays, empty
+}
+
+}  // namespace
+}  // namespace tendo
