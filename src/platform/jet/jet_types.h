@@ -56,8 +56,9 @@ struct TableDefinition {
     std::vector<Index> indexes;
 };
 
-/// A value: null, Boolean, whole number (Byte, Integer, Long; Currency in ten-thousandths), floating number
-/// (Single, Double, Date), or text and bytes (Text and Memo as UTF-8; Binary and Ole as bytes; Guid as
+/// A value: null, Boolean, whole number (Byte, Integer, Long; Currency in ten-thousandths),
+/// floating number (Single, Double, Date), or text and bytes (Text and Memo as UTF-8; Binary and
+/// Ole as bytes; Guid as
 /// "{...}" in capitals; Numeric as decimal text). The views live until the next row.
 using ValueView = std::variant<std::monostate, bool, std::int64_t, double, std::string_view>;
 using Value = std::variant<std::monostate, bool, std::int64_t, double, std::string>;

@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 #include <nlohmann/json.hpp>
 
 #include "platform/text/date_text.h"
@@ -46,7 +47,11 @@ std::string Hex(std::string_view bytes) {
 
 std::string NumberJson(double value, ColumnType type) {
     if (type != ColumnType::Date) return Shortest(value, type == ColumnType::Single);
-    return TextJson(IsoText(DateOfSerial(value)));
+    const DateTime date = DateOfSerial(value);
+    std::array<char, 40> text{};
+    std::snprintf(text.data(), text.size(), "%04d-%02d-%02dT%02d:%02d:%02d", date.year, date.month, date.day,
+                  date.hour, date.minute, date.second);
+    return TextJson(text.data());
 }
 
 }  // namespace
