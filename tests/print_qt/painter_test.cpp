@@ -27,7 +27,6 @@ ProjectRecords SampleJob() {
     project.CLGModelData[0].ModelNum = "FA-3614";
     project.CLGModelData[0].Manuf = "Frostelm";
     project.HTGModelData[0].ModelNum = "FG-80-095";
-    project.HTGModelData[0].ModelType = "Furnace";
     project.ModelInfo[0].CLGModelDealerCost = 2000;
     project.ModelInfo[0].CLGSalePrice = 3310;
     project.ModelInfo[0].HTGSalePrice = 2240;
