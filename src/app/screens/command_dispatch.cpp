@@ -176,7 +176,6 @@ void RegisterProcedure(const std::string& name, std::function<void()> run) {
 void ActiveBar_Click(const std::string& tool) {
     const Command* command = FindCommand(tool);
     if (!command) return;
-    const bool leftOn = PointerIsHourglass();
     RunGuarded([command] {
         Form::CommitFocusedField();
         if (const int number = RecentFileNumber(command->tool))
@@ -184,7 +183,7 @@ void ActiveBar_Click(const std::string& tool) {
         else
             RunProcedure(command->procedure);
     });
-    if (leftOn) NormalPointer();
+    if (!HourglassWasLeftOn()) NormalPointer();
     RefreshCheckedTools();
     if (CommandObserver()) CommandObserver()();
 }

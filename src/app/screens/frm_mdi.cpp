@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QMimeData>
 #include <QScreen>
+#include <QThread>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -153,6 +154,7 @@ void frmMDI::DrawBackground() {
 
 bool frmMDI::QueryUnload() {
     State().ClosingDown = true;
+    State().SaveCancelled = false;  // an earlier cancel, of Open or Close, doesn't stop the exit
     CloseProjectWindows();
     RunGuarded(SaveWorkFile);
     // A project that its user wants saved and that can't be written keeps the program open.
@@ -175,7 +177,8 @@ void frmMDI::FormUnload() {
     for (Form* form : Loaded())
         if (form != this) form->Unload();
     SetListObserver({});
-    QCoreApplication::exit(0);
+    // Without a running event loop an exit would stop every later modal loop at once.
+    if (QThread::currentThread()->loopLevel() > 0) QCoreApplication::exit(0);
 }
 
 void frmMDI::dragEnterEvent(QDragEnterEvent* event) {

@@ -49,6 +49,7 @@ class OpenCommand {
     void OpenFromWorkFile();
     void Finish();
     Next TempFileFailed();
+    static Next StopWithHourglass();
 
     const std::string oldName_ = State().ProjectFileName;
     std::string dialogName_;
@@ -99,7 +100,7 @@ OpenCommand::Next OpenCommand::RecoverUntitled() {
             "file the was in the process of being edited when Tendo or Windows encountered a "
             "problem.  TENDO will attempt to recover this file.",
             Buttons::OkCancel, MessageIcon::None);
-    if (answer != Answer::Ok) return Next::Stop;  // the hourglass stays until the next command ends
+    if (answer != Answer::Ok) return StopWithHourglass();
     try {
         State().WorkFileName = State().ProjectsDirectory + "Untitled.tmp";
         State().ProjectFileName = State().ProjectsDirectory + "Untitled.hid";
@@ -120,6 +121,11 @@ OpenCommand::Next OpenCommand::TempFileFailed() {
     return Next::Stop;
 }
 
+OpenCommand::Next OpenCommand::StopWithHourglass() {
+    LeaveHourglassOn();
+    return Next::Stop;
+}
+
 OpenCommand::Next OpenCommand::OpenChosenFile() {
     try {
         step_ = 4;
@@ -134,7 +140,7 @@ OpenCommand::Next OpenCommand::OpenChosenFile() {
                 "Tendo",
                 "This is a DOS TENDO Project File.  Please select Convert DOS TENDO Project "
                 "Files from the File menu.");
-            return Next::Stop;  // the hourglass stays until the next command ends
+            return StopWithHourglass();
         }
         step_ = 9;
         if (FileExists(TempFileBeside())) return OpenBesideTempFile();

@@ -1,8 +1,14 @@
 #include "app/screens/pointer.h"
 
 #include <QApplication>
+#include <utility>
 
 namespace tendo {
+namespace {
+
+bool leftOn = false;
+
+}  // namespace
 
 void HourglassPointer() {
     if (!QApplication::overrideCursor()) QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -15,6 +21,14 @@ void NormalPointer() {
 
 bool PointerIsHourglass() {
     return QApplication::overrideCursor() != nullptr;
+}
+
+void LeaveHourglassOn() {
+    leftOn = true;
+}
+
+bool HourglassWasLeftOn() {
+    return std::exchange(leftOn, false);
 }
 
 }  // namespace tendo
