@@ -10,7 +10,7 @@ namespace {
 using namespace page_geometry;
 
 // In the fixed font of ten points every character is 100 twips wide and a line 200 twips high; 68
-// lines fit on a page (13680 / 200), 105 characters on a line (10570 / 100).
+// lines fit on a page (13680 / 200), 106 characters on a line (10620 / 100).
 constexpr int TextLeft = Left + TextInset;
 constexpr int TextRight = Right - TextInset;
 

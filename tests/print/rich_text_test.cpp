@@ -9,6 +9,17 @@ RichText Read(std::string_view text) {
     return ReadRichOrPlainText(text, {});
 }
 
+/// The text alone, paragraphs parted by line ends.
+std::string PlainTextOf(const RichText& text) {
+    std::string plain;
+    for (const RichParagraph& paragraph : text.paragraphs) {
+        if (&paragraph != &text.paragraphs.front()) plain += '\n';
+        for (const RichRun& run : paragraph.runs)
+            plain += run.text;
+    }
+    return plain;
+}
+
 std::string Plain(std::string_view text) {
     return PlainTextOf(Read(text));
 }

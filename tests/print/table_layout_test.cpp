@@ -10,7 +10,7 @@ namespace {
 using namespace page_geometry;
 
 // Ten points: characters 100 twips wide, lines 200 high; a row of one line is 270 high, a spacer
-// 100. The text of the first column starts at 475 (360 and insets of 25 and 90).
+// 100. The text of the first column starts at 450 (360 and insets of 25 and 65).
 constexpr int FirstText = Left + TableInset + CellPadding;
 constexpr int RowHeight = 270;
 
@@ -75,15 +75,16 @@ TEST_F(Tables, CellsStandInTheirColumns) {
     const Page& page = FinishOnePage();
     ASSERT_EQ(page.texts.size(), 3U);
     EXPECT_EQ(page.texts[0].x, FirstText);
-    EXPECT_EQ(page.texts[1].x, 385 + 4000 - 90 - 200);  // at the right of the second column
-    EXPECT_EQ(page.texts[2].x, 385 + 5000 - 100);       // in the middle of the third
+    EXPECT_EQ(page.texts[1].x,
+              385 + 4000 - CellPadding - 200);     // at the right of the second column
+    EXPECT_EQ(page.texts[2].x, 385 + 5000 - 100);  // in the middle of the third
     EXPECT_EQ(page.texts[0].y, 720 + 35 + 160);
     EXPECT_EQ(surface.CurrentY(), 720 + RowHeight);
     EXPECT_EQ(surface.CurrentX(), Left);
 }
 
 TEST_F(Tables, CellsWrapAndTheRowGrows) {
-    // 2000 less twice 90 holds 18 characters: two lines.
+    // 2000 less twice 65 holds 18 characters: two lines.
     surface.AddTable("<2000|<2000", "", "Gas furnace, two stage|x;y;");
     EXPECT_EQ(surface.CurrentY(), 720 + 470 + RowHeight);
     EXPECT_EQ(PageText(FinishOnePage()), "Gas furnace, two\nstage\nx\ny");

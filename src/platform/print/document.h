@@ -19,7 +19,7 @@ inline constexpr int Width = 11520, Height = 15120;
 inline constexpr int Left = 360, Right = 11160, Top = 720, Bottom = 14400;
 /// Tables stand this far inside the text box, and so a table of 10750 twips is centred in it.
 inline constexpr int TableInset = 25;
-inline constexpr int CellPadding = 90;
+inline constexpr int CellPadding = 65;
 /// Running text keeps off the page border, flush with the text of tables.
 inline constexpr int TextInset = TableInset + CellPadding;
 }  // namespace page_geometry

@@ -51,14 +51,4 @@ RichText ReadRichOrPlainText(std::string_view text, const RichRun& base) {
     return PlainAsRich(WithoutLoneBraces(text), base);
 }
 
-std::string PlainTextOf(const RichText& text) {
-    std::string plain;
-    for (const RichParagraph& paragraph : text.paragraphs) {
-        if (&paragraph != &text.paragraphs.front()) plain += '\n';
-        for (const RichRun& run : paragraph.runs)
-            plain += run.text;
-    }
-    return plain;
-}
-
 }  // namespace tendo

@@ -46,7 +46,4 @@ RichText PlainAsRich(std::string_view text, const RichRun& base);
 /// taken out of it can hold a brace without a partner at either end; it isn't shown.
 RichText ReadRichOrPlainText(std::string_view text, const RichRun& base);
 
-/// The text alone, paragraphs parted by '\n'.
-std::string PlainTextOf(const RichText& text);
-
 }  // namespace tendo
