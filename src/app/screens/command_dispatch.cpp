@@ -56,6 +56,7 @@ const Procedure procedures[] = {
     {"mnuEditDelete_Click", mnuEditDelete_Click},
     {"mnuEditSelectAll_Click", mnuEditSelectAll_Click},
     {"mnuProjectModelDataBase_Click", mnuProjectModelDataBase_Click},
+    {"mnuRepairTendoDatabase_Click", mnuRepairTendoDatabase_Click},
     {"mnuExportTendoDatabaseToDisk_Click", mnuExportTendoDatabaseToDisk_Click},
     {"mnuImportTendoDatabaseFromDisk_Click", mnuImportTendoDatabaseFromDisk_Click},
     {"mnuToolsConvert_Click", mnuToolsConvert_Click},

@@ -1,5 +1,6 @@
 #include "app/screens/database_commands.h"
 
+#include "app/database_repair.h"
 #include "app/screens/pointer.h"
 #include "materials/material_catalogue.h"
 #include "platform/files/paths.h"
@@ -43,6 +44,19 @@ void ImportFrom(const std::string& source) {
 }
 
 }  // namespace
+
+void mnuRepairTendoDatabase_Click() {
+    HourglassPointer();
+    try {
+        RepairDatabase(State().MaterialDatabaseName);
+        LoadMaterialCatalogue();
+        NormalPointer();
+        ShowMessage(title, "Database repaired.");
+    } catch (const RuntimeError& error) {
+        NormalPointer();
+        ShowMessage(title, "Repair unsuccessful!\nError number: " + std::to_string(error.Number()));
+    }
+}
 
 void mnuExportTendoDatabaseToDisk_Click() {
     ShowMessage(title,

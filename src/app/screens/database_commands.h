@@ -2,7 +2,8 @@
 
 namespace tendo {
 
-/// The floppy copies of the material database.
+/// Repair and floppy copies of the material database.
+void mnuRepairTendoDatabase_Click();
 void mnuExportTendoDatabaseToDisk_Click();
 void mnuImportTendoDatabaseFromDisk_Click();
 

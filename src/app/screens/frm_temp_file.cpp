@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "platform/qt/form.h"
@@ -15,10 +16,10 @@ struct Choice {
     const char* caption;
 };
 const Choice choices[] = {
-    {"optOption1", "&Open the temporary file and preserve the most recent inputs\n(recommended)."},
+    {"optOption1", "Open the temporary file and preserve the most recent inputs\n(recommended)."},
     {"optOption2",
-     "&Delete the temporary file and open the most recently\nsaved version of this project."},
-    {"optOption3", "Do &not open this project right now."},
+     "Delete the temporary file and open the most recently\nsaved version of this project."},
+    {"optOption3", "Do not open this project right now."},
 };
 
 class frmTempFile : public Form {
@@ -44,8 +45,9 @@ class frmTempFile : public Form {
         auto* ok = new QPushButton("OK", this);
         ok->setObjectName("btnOK");
         ok->setProperty("primary", true);
-        ok->setDefault(true);
         connect(ok, &QPushButton::clicked, this, [this] { Unload(); });
+        connect(new QShortcut(QKeySequence(Qt::Key_Return), this), &QShortcut::activated, this,
+                [this] { Unload(); });
         column->addSpacing(4);
         column->addWidget(ok, 0, Qt::AlignRight);
         setMinimumWidth(460);

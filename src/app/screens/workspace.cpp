@@ -19,6 +19,32 @@ QColor StoredColor(const char* key) {
     return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
 }
 
+/// What can be done while nothing is open.
+void DrawHint(QPainter& painter, const QRect& room) {
+    struct Line {
+        const char* what;
+        const char* how;
+    };
+    constexpr Line lines[] = {{"New project", "Ctrl+N"},
+                              {"Open a project", "Ctrl+O"},
+                              {"Find a command", "Ctrl+Shift+P"}};
+    painter.setFont(BodyFont());
+    painter.setPen(Theme().secondary);
+    const QFontMetrics metrics = painter.fontMetrics();
+    const int height = metrics.height() + 12;
+    const int gap = 24;
+    int y = room.center().y() - height * 2;
+    for (const Line& line : lines) {
+        painter.drawText(QRect(room.left(), y, room.width() / 2 - gap / 2, height),
+                         Qt::AlignRight | Qt::AlignVCenter, line.what);
+        painter.drawText(QRect(room.center().x() + gap / 2, y, room.width() / 2, height),
+                         Qt::AlignLeft | Qt::AlignVCenter, line.how);
+        y += height;
+    }
+    painter.drawText(QRect(room.left(), y, room.width(), height), Qt::AlignCenter,
+                     "or drop a project file here");
+}
+
 }  // namespace
 
 WorkspaceArea::WorkspaceArea(QWidget* parent) : QMdiArea(parent), color_(Theme().workspace) {
@@ -27,6 +53,7 @@ WorkspaceArea::WorkspaceArea(QWidget* parent) : QMdiArea(parent), color_(Theme()
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setOption(DontMaximizeSubWindowOnActivation);
+    connect(this, &QMdiArea::subWindowActivated, this, [this] { viewport()->update(); });
 }
 
 void WorkspaceArea::DrawBackground() {
@@ -68,7 +95,11 @@ QRect WorkspaceArea::PictureBox() const {
 void WorkspaceArea::paintEvent(QPaintEvent*) {
     QPainter painter(viewport());
     painter.fillRect(viewport()->rect(), color_);
-    if (picture_.isNull()) return;
+    if (picture_.isNull()) {
+        if (subWindowList().isEmpty() && color_ == Theme().workspace)
+            DrawHint(painter, viewport()->rect());
+        return;
+    }
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (mode_ == Mode::Tile)
         painter.drawTiledPixmap(viewport()->rect(), picture_);

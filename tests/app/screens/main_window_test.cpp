@@ -94,6 +94,13 @@ TEST_F(MainWindow, AChosenNameWithOnlyBlanksFailsTheExport) {
     EXPECT_EQ(dialogs->messages[1].text, "Export failed.  Try another disk.");
 }
 
+TEST_F(MainWindow, ARepairOfWhatIsNoDatabaseTellsTheNumber) {
+    Write("tendo.mdb", "book");
+    ActiveBarClick("ToolRepairTendoDatabase");
+    EXPECT_TRUE(Saw("Repair unsuccessful!\nError number: 3343"));
+    EXPECT_EQ(Read("tendo.mdb"), "book");
+}
+
 TEST_F(MainWindow, AnExportCopiesTheMaterialDatabase) {
     Write("tendo.mdb", "book");
     dialogs->files = {directory + "floppy.bkt"};
