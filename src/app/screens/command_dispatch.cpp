@@ -13,6 +13,7 @@
 #include "app/screens/pointer.h"
 #include "app/screens/program_commands.h"
 #include "app/screens/project_commands.h"
+#include "app/screens/report_commands.h"
 #include "app/screens/screen_table.h"
 #include "app/screens/toolbar_commands.h"
 #include "app/screens/window_commands.h"
@@ -69,6 +70,9 @@ const Procedure procedures[] = {
     {"mnuToolbarAlignLeft_Click", mnuToolbarAlignLeft_Click},
     {"mnuToolbarAlignRight_Click", mnuToolbarAlignRight_Click},
     {"mnuToolbarAlignBottom_Click", mnuToolbarAlignBottom_Click},
+    {"mnuToolbarCustomizeToolbar_Click", mnuToolbarCustomizeToolbar_Click},
+    {"mnuFilePrint_Click", mnuFilePrint_Click},
+    {"mnuFilePrintSetup_Click", mnuFilePrintSetup_Click},
     {"mnuWindowCascade_Click", mnuWindowCascade_Click},
     {"mnuWindowTileHorizontal_Click", mnuWindowTileHorizontal_Click},
     {"mnuWindowTileVertical_Click", mnuWindowTileVertical_Click},

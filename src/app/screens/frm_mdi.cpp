@@ -65,7 +65,8 @@ frmMDI::frmMDI()
     window_->setCentralWidget(workspace_);
     window_->setStatusBar(status_);
     menus_ = new MainMenus(window_);
-    SetMainToolbar(window_, menus_->Toolbar());
+    SetMainToolbar(window_, menus_->Toolbar(),
+                   [this](const QStringList& hidden) { menus_->FillToolbar(hidden); });
     SetWorkspace(workspace_);
     setWindowIcon(LineIcon("tendo"));
     setAcceptDrops(true);

@@ -102,15 +102,10 @@ void MainMenus::MakeToolbar() {
     toolbar_->setMovable(false);
     toolbar_->setFloatable(false);
     toolbar_->setContextMenuPolicy(Qt::PreventContextMenu);
-    for (const char* tool : MainToolbarTools()) {
-        if (*tool)
-            toolbar_->addAction(actions_[tool]);
-        else
-            toolbar_->addSeparator();
-    }
     auto* gap = new QWidget(toolbar_);
     gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    toolbar_->addWidget(gap);
+    gap_ = toolbar_->addWidget(gap);
+    FillToolbar({});
     auto* search = new CommandSearch(toolbar_);
     QAction* place = toolbar_->addWidget(search);
     connect(toolbar_, &QToolBar::orientationChanged, this, [place](Qt::Orientation orientation) {
@@ -119,6 +114,24 @@ void MainMenus::MakeToolbar() {
     auto* keys = new QShortcut(QKeySequence("Ctrl+Shift+P"), window_);
     connect(keys, &QShortcut::activated, search,
             [search] { search->setFocus(Qt::ShortcutFocusReason); });
+}
+
+void MainMenus::FillToolbar(const QStringList& hidden) {
+    for (QAction* action : toolbar_->actions()) {
+        if (action == gap_) break;
+        toolbar_->removeAction(action);
+        if (action->isSeparator()) action->deleteLater();
+    }
+    bool separator = false;  // stands only between tools
+    bool first = true;
+    for (const char* tool : MainToolbarTools()) {
+        separator = separator || !*tool;
+        if (!*tool || hidden.contains(tool)) continue;
+        if (separator && !first) toolbar_->insertSeparator(gap_);
+        toolbar_->insertAction(gap_, actions_[tool]);
+        separator = false;
+        first = false;
+    }
 }
 
 void MainMenus::ShowWindowList() {

@@ -21,6 +21,8 @@ class MainMenus : public QObject {
     ~MainMenus() override;
 
     QToolBar* Toolbar() const { return toolbar_; }
+    /// Puts the tools on the toolbar, but for the hidden ones.
+    void FillToolbar(const QStringList& hidden);
     /// The Window menu's list of loaded screens.
     void ShowWindowList();
 
@@ -32,6 +34,7 @@ class MainMenus : public QObject {
 
     QMainWindow* window_;
     QToolBar* toolbar_ = nullptr;
+    QAction* gap_ = nullptr;  // what stands right of the tools begins here
     QMenu* windowMenu_ = nullptr;
     QList<QAction*> windowEntries_;
     QMap<QString, QAction*> actions_;

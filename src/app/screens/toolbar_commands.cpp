@@ -1,55 +1,59 @@
 #include "app/screens/toolbar_commands.h"
 
-#include <QByteArray>
 #include <QMainWindow>
 #include <QPointer>
 #include <QToolBar>
 
 #include "app/screens/bar.h"
-#include "platform/files/paths.h"
-#include "platform/files/safe_file.h"
-#include "platform/text/runtime_error.h"
+#include "app/screens/frm_customize_toolbar.h"
+#include "platform/files/profile.h"
 #include "project/program_state.h"
 
 namespace tendo {
 namespace {
 
-constexpr int layoutVersion = 1;
-constexpr std::uint64_t longestLayout = 1 << 16;
+constexpr const char* section = "Main Toolbar";
 
 QPointer<QMainWindow> mainWindow;
 QPointer<QToolBar> mainToolbar;
+std::function<void(const QStringList&)> fillToolbar;
+QStringList hiddenTools;
 
 struct Side {
+    const char* name;
     const char* tool;
     Qt::ToolBarArea area;
 };
-const Side sides[] = {{"ToolAlignTop", Qt::TopToolBarArea},
-                      {"ToolAlignLeft", Qt::LeftToolBarArea},
-                      {"ToolAlignRight", Qt::RightToolBarArea},
-                      {"ToolAlignBottom", Qt::BottomToolBarArea}};
-
-void ShowSide() {
-    const Qt::ToolBarArea area = mainWindow->toolBarArea(mainToolbar);
-    for (const Side& side : sides)
-        MainBar().SetChecked(side.tool, side.area == area);
-}
+const Side sides[] = {{"Top", "ToolAlignTop", Qt::TopToolBarArea},
+                      {"Left", "ToolAlignLeft", Qt::LeftToolBarArea},
+                      {"Right", "ToolAlignRight", Qt::RightToolBarArea},
+                      {"Bottom", "ToolAlignBottom", Qt::BottomToolBarArea}};
 
 void Dock(Qt::ToolBarArea area) {
     if (!mainWindow || !mainToolbar) return;
     mainWindow->addToolBar(area, mainToolbar);
-    ShowSide();
+    for (const Side& side : sides)
+        MainBar().SetChecked(side.tool, side.area == area);
 }
 
 std::string LayoutFile() {
     return State().ProgramDirectory + "toolbar.lyt";
 }
 
+const Side& StoredSide() {
+    const std::string name = ReadProfileString(LayoutFile(), section, "Side", "");
+    for (const Side& side : sides)
+        if (name == side.name) return side;
+    return sides[0];
+}
+
 }  // namespace
 
-void SetMainToolbar(QMainWindow* window, QToolBar* bar) {
+void SetMainToolbar(QMainWindow* window, QToolBar* bar,
+                    std::function<void(const QStringList& hidden)> fill) {
     mainWindow = window;
     mainToolbar = bar;
+    fillToolbar = std::move(fill);
 }
 
 void mnuToolbarAlignTop_Click() {
@@ -68,20 +72,24 @@ void mnuToolbarAlignBottom_Click() {
     Dock(Qt::BottomToolBarArea);
 }
 
+void mnuToolbarCustomizeToolbar_Click() {
+    if (AskHiddenTools(hiddenTools)) fillToolbar(hiddenTools);
+}
+
 void RestoreToolbarLayout() {
-    if (FileExists(LayoutFile())) {
-        try {
-            const std::string bytes = ReadWholeFile(LayoutFile(), longestLayout);
-            mainWindow->restoreState(QByteArray::fromStdString(bytes), layoutVersion);
-        } catch (const RuntimeError&) {
-            // An unreadable layout leaves the design's own.
-        }
-    }
-    ShowSide();
+    const std::string hidden = ReadProfileString(LayoutFile(), section, "Hidden", "");
+    hiddenTools = QString::fromStdString(hidden).split(',', Qt::SkipEmptyParts);
+    fillToolbar(hiddenTools);
+    Dock(StoredSide().area);
 }
 
 void StoreToolbarLayout() {
-    ReplaceFile(LayoutFile(), mainWindow->saveState(layoutVersion).toStdString());
+    const Qt::ToolBarArea area = mainWindow->toolBarArea(mainToolbar);
+    for (const Side& side : sides) {
+        if (side.area != area) continue;
+        WriteProfileSection(LayoutFile(), section,
+                            {{"Side", side.name}, {"Hidden", hiddenTools.join(',').toStdString()}});
+    }
 }
 
 }  // namespace tendo

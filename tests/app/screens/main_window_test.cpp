@@ -1,7 +1,8 @@
 #include <QAction>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPixmap>
+#include <QListWidget>
+#include <QPushButton>
+#include <QToolBar>
 
 #include "app/screens/shell.h"
 #include "platform/files/ini_file_handler.h"
@@ -37,8 +38,8 @@ class MainWindow : public RunningProgram {
 };
 
 TEST_F(MainWindow, CommandsOfScreensToComeAreDisabled) {
-    EXPECT_FALSE(FindTool("ToolCustomizeToolbar")->enabled);
-    EXPECT_FALSE(ActiveBarClick("ToolCustomizeToolbar"));
+    EXPECT_FALSE(FindTool("ToolOptions")->enabled);
+    EXPECT_FALSE(ActiveBarClick("ToolOptions"));
     EXPECT_FALSE(ActiveBarClick("NoSuchTool"));
 }
 
@@ -136,6 +137,26 @@ TEST_F(MainWindow, TheToolbarIsDockedAndItsSideMarked) {
     Write("toolbar.lyt", "broken");
     StartProgram();
     EXPECT_TRUE(FindTool("ToolAlignTop")->checked);
+}
+
+TEST_F(MainWindow, AToolTakenOffTheToolbarStaysOff) {
+    const auto onToolbar = [](const char* tool) {
+        auto* bar = Form::Find("frmMDI")->findChild<QToolBar*>("MainToolbar");
+        for (const QAction* action : bar->actions())
+            if (action->objectName() == tool) return true;
+        return false;
+    };
+    EXPECT_TRUE(onToolbar("ToolCalculator"));
+    Form::SetModalObserver([](Form& form) {
+        auto* list = form.findChild<QListWidget*>("lstTools");
+        list->item(list->count() - 1)->setCheckState(Qt::Unchecked);
+        form.findChild<QAbstractButton*>("btnOK")->click();
+    });
+    ActiveBarClick("ToolCustomizeToolbar");
+    EXPECT_FALSE(onToolbar("ToolCalculator"));
+    EXPECT_TRUE(onToolbar("ToolNew"));
+    Restart();
+    EXPECT_FALSE(onToolbar("ToolCalculator"));
 }
 
 TEST_F(MainWindow, TheStatusBarTellsFieldAndFiles) {

@@ -1,0 +1,27 @@
+#include "app/screens/report_commands.h"
+
+#include "app/screens/pointer.h"
+#include "platform/qt/dialogs.h"
+#include "project/project_records.h"
+#include "reports/generate_reports.h"
+#include "reports/package.h"
+#include "reports/screens/report_run.h"
+
+namespace tendo {
+
+void mnuFilePrint_Click() {
+    HourglassPointer();
+    Document document = RunReports([](PrintSurface& surface) {
+                            ReportContext context(surface, Project());
+                            GenerateReports(context);
+                        }).document;
+    SetDocumentNames(document, Project());
+    NormalPointer();
+    PrintDocument(document);
+}
+
+void mnuFilePrintSetup_Click() {
+    Dialogs().Print("Printer Setup");
+}
+
+}  // namespace tendo
