@@ -1,4 +1,3 @@
-#include <cstring>
 #include <iterator>
 
 #include "platform/text/number_text.h"
@@ -26,10 +25,6 @@ bool MayBeSame(FieldKind kind) {
 TableField CostFieldOf(const FieldDescription& override) {
     return override.row == price_row::Total ? TableField::TotalDealerCost
                                             : RowField(override.row, FieldKind::DealerCost);
-}
-
-bool SameBytes(const SystemTendosRecord& a, const SystemTendosRecord& b) {
-    return std::memcmp(&a, &b, sizeof a) == 0;
 }
 
 }  // namespace
@@ -114,15 +109,16 @@ void PriceTable::WriteSalePrices() {
 }
 
 void PriceTable::GetSystemTendos() {
-    const SystemTendosRecord before = records_.SystemTendos;
     for (int i = 0; i < TableFieldCount; ++i) {
         const auto field = static_cast<TableField>(i);
         const FieldDescription& description = Describe(field);
         if (description.column == nullptr) continue;
         const bool same = MayBeSame(description.kind) && Text(field) == Same;
-        records_.SystemTendos.*description.column = Value(same ? CostFieldOf(description) : field);
+        const float value = Value(same ? CostFieldOf(description) : field);
+        float& column = records_.SystemTendos.*description.column;
+        if (column != value) State().ProjectChanged = true;
+        column = value;
     }
-    if (!SameBytes(before, records_.SystemTendos)) State().ProjectChanged = true;
     StoreModelTexts();
 }
 

@@ -80,9 +80,10 @@ int RecentFileCount() {
 }
 
 std::vector<std::string> RecentFiles() {
-    std::vector<std::string> names;
-    for (int i = 0; i < RecentFileCount(); ++i) {
-        names.push_back(Ini().MyGetAppProfileString("RecentFiles", RecentFileKey(i), ""));
+    std::vector<std::string> names(static_cast<std::size_t>(RecentFileCount()));
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        names[i] =
+            Ini().MyGetAppProfileString("RecentFiles", RecentFileKey(static_cast<int>(i)), "");
     }
     return names;
 }
