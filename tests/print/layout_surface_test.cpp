@@ -165,6 +165,39 @@ TEST_F(Layout, AHeadingOnABarStandsInItsMiddleAndEntersTheOutline) {
     EXPECT_EQ(document.outline[0].page, 0);
 }
 
+TEST_F(Layout, AHeadingWithoutRoomForItsSectionTakesItsBarToTheNextPage) {
+    surface.NewPageEvent = [&] {
+        if (surface.CurrentPage() > 1) surface.Paragraph("running");
+    };
+    Lines(65);  // 13720; three lines of 200 would fit, a heading wants four
+    surface.X1(Left);
+    surface.X2(Right);
+    surface.Y1(13650);
+    surface.Y2(13970);
+    surface.Draw(2);
+    surface.Paragraph("Footnotes");
+    const Document& document = Finish();
+    ASSERT_EQ(document.pages.size(), 2U);
+    EXPECT_TRUE(document.pages[0].shapes.empty());
+    ASSERT_EQ(document.pages[1].shapes.size(), 1U);
+    const BoxItem& bar = std::get<BoxItem>(document.pages[1].shapes[0]);
+    EXPECT_EQ(bar.top, 920 - 70);  // as far above its text as before
+    EXPECT_EQ(bar.bottom - bar.top, 320);
+    EXPECT_EQ(PageText(document.pages[1]), "running\nFootnotes");
+    EXPECT_EQ(document.outline.at(0).page, 1);
+}
+
+TEST_F(Layout, AHeadingWithRoomForItsSectionStays) {
+    Lines(64);  // 13520; four lines of 200 fit
+    surface.X1(Left);
+    surface.X2(Right);
+    surface.Y1(13450);
+    surface.Y2(13770);
+    surface.Draw(2);
+    surface.Paragraph("Footnotes");
+    EXPECT_EQ(Finish().pages.size(), 1U);
+}
+
 TEST_F(Layout, ANarrowBoxIsNoBarOfAHeading) {
     surface.X1(3000);
     surface.X2(6000);

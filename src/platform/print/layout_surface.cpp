@@ -19,6 +19,7 @@ constexpr int BorderPen = 15;
 constexpr int HeaderCentre = 374;  // of the grey band above the text, 2 to 50 hundredths
 constexpr int FooterTop = Bottom + 60;
 constexpr int RunningFieldWidth = 5000;
+constexpr int LinesWithHeading = 4;       // a heading and what must follow it on its page
 constexpr int SpaceBehindRichText = 100;  // parts one footnote from the next
 constexpr int BoxBorder = 4;
 constexpr int Rectangle = 2;
@@ -173,7 +174,10 @@ void LayoutSurface::WriteRich(const RichParagraph& paragraph) {
 
 void LayoutSurface::WriteLine(const TextLine& line, double left) {
     const int height = line.height * LineSpacingPercent() / 100;
-    if (!flow_.Fits(height)) flow_.NewPage();
+    if (IsOnBar(line))
+        KeepHeadingTogether(height);
+    else if (!flow_.Fits(height))
+        flow_.NewPage();
     if (IsOnBar(line)) {
         flow_.AddLine(line, left, TopOnBar(line));
         AddHeading(line);
@@ -181,6 +185,27 @@ void LayoutSurface::WriteLine(const TextLine& line, double left) {
         flow_.AddLine(line, left, flow_.y);
     }
     flow_.y += height;
+}
+
+/// A heading with no room for some lines of its section goes to the next page and takes its bar
+/// along.
+void LayoutSurface::KeepHeadingTogether(int height) {
+    if (flow_.Fits(height * LinesWithHeading)) return;
+    const int rise = flow_.y - bar_.top;
+    BoxItem bar = bar_;
+    std::vector<Shape>& shapes = flow_.Current().shapes;
+    if (const BoxItem* last = std::get_if<BoxItem>(&shapes.back()); last && last->top == bar.top)
+        shapes.pop_back();
+    flow_.NewPage();
+    bar.bottom += flow_.y - rise - bar.top;
+    bar.top = flow_.y - rise;
+    PlaceBar(bar);
+}
+
+void LayoutSurface::PlaceBar(const BoxItem& bar) {
+    flow_.Current().shapes.push_back(bar);
+    bar_ = bar;
+    barPage_ = flow_.PageNumber();
 }
 
 double LayoutSurface::LineStart(RichAlign align, double left, double right, double width) const {
@@ -234,10 +259,10 @@ void LayoutSurface::DrawShape() {
     if (Number(SurfaceOp::BrushStyle) == SolidBrush)
         box.fill = RgbOfColor(Number(SurfaceOp::BrushColor));
     if (box.penWidth > 0) box.outline = RgbOfColor(Number(SurfaceOp::PenColor));
-    flow_.Current().shapes.push_back(box);
-    if (!box.fill) return;
-    bar_ = box;
-    barPage_ = flow_.PageNumber();
+    if (box.fill)
+        PlaceBar(box);
+    else
+        flow_.Current().shapes.push_back(box);
 }
 
 void LayoutSurface::AddPicture(std::string_view path) {

@@ -49,6 +49,8 @@ class LayoutSurface : public PrintSurface {
     void WriteParagraph(std::string_view text);
     void WriteRich(const RichParagraph& paragraph);
     void WriteLine(const TextLine& line, double left);
+    void KeepHeadingTogether(int height);
+    void PlaceBar(const BoxItem& bar);
     bool IsOnBar(const TextLine& line) const;
     int TopOnBar(const TextLine& line) const;
     void AddHeading(const TextLine& line);
