@@ -109,6 +109,7 @@ void PriceTable::WriteSalePrices() {
 }
 
 void PriceTable::GetSystemTendos() {
+    if (!open_) return;  // blank texts must not wipe the records
     for (int i = 0; i < TableFieldCount; ++i) {
         const auto field = static_cast<TableField>(i);
         const FieldDescription& description = Describe(field);

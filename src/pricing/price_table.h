@@ -56,7 +56,7 @@ class PriceTable {
 
     /// Records to texts; nothing when the screen is closed or `FieldChanged` isn't set.
     void SetSystemTendos();
-    /// Texts to records, the current system's models included.
+    /// Texts to records, the current system's models included; nothing when the screen is closed.
     void GetSystemTendos();
     void DoAllMiddleItemsAtLoadTime();
 

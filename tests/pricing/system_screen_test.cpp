@@ -117,6 +117,12 @@ TEST_F(SystemScreen, ClosingStoresTheTexts) {
     EXPECT_FALSE(table.IsOpen());
 }
 
+TEST_F(SystemScreen, AClosedScreenStoresNothing) {
+    tendos().LaborSalePrice = 10;
+    table.GetSystemTendos();
+    EXPECT_EQ(tendos().LaborSalePrice, 10);
+}
+
 TEST_F(SystemScreen, OnlyAChangedRecordMarksTheProjectAsChanged) {
     table.Open();
     table.GetSystemTendos();
