@@ -53,23 +53,27 @@ void Note(std::int64_t type, NotKept& notKept) {
 
 Catalogue ReadCatalogue(const PageFile& file) {
     Catalogue catalogue;
-    const StoredTable table = ReadDefinition(file, CataloguePage);
-    const CatalogueColumns at = FindColumns(table);
-    RowReader reader(file, table);
+    const StoredTable objects = ReadDefinition(file, CataloguePage);
+    const CatalogueColumns at = FindColumns(objects);
+    RowReader reader(file, objects);
     std::set<std::uint32_t> pages;
-    ForEachRow(file, table, [&](std::string_view row) {
+    ForEachRow(file, objects, [&](std::string_view row) {
         const auto values = reader.Read(row);
         const std::int64_t type = NumberOf(values[at.type]);
         const auto flags = static_cast<std::uint32_t>(NumberOf(values[at.flags]));
         const std::string name(TextOf(values[at.name]));
         const bool system = (flags & SystemFlags) || name.starts_with("MSys");
         if (!system) Note(type, catalogue.notKept);
-        if (type != 1 || system) return true;
-        const auto page = static_cast<std::uint32_t>(NumberOf(values[at.id])) & 0xffffff;
-        if (!pages.insert(page).second) Damaged("two tables of the catalogue share one definition");
-        std::string properties;
-        if (at.properties != SIZE_MAX) properties = TextOf(values[at.properties]);
-        catalogue.tables.push_back({name, page, std::move(properties)});
+        if (type != 1) return true;
+        CatalogueTable table{
+            name, static_cast<std::uint32_t>(NumberOf(values[at.id])) & 0xffffff, {}, {}};
+        // A page serves one table: a file can't make us read one definition a thousand times.
+        if (!pages.insert(table.page).second) {
+            table.fault = "its definition belongs to another table";
+        } else if (at.properties != SIZE_MAX) {
+            table.properties = TextOf(values[at.properties]);
+        }
+        (system ? catalogue.systems : catalogue.tables).push_back(std::move(table));
         return true;
     });
     return catalogue;

@@ -14,9 +14,11 @@ struct CatalogueTable {
     std::string name;
     std::uint32_t page = 0;
     std::string properties;  // LvProp
+    std::string fault;       // why it can't be read; empty when nothing is known against it
 };
 struct Catalogue {
-    std::vector<CatalogueTable> tables;  // user tables in stored order
+    std::vector<CatalogueTable> tables;   // user tables in stored order
+    std::vector<CatalogueTable> systems;  // the engine's own, for the check of a file
     NotKept notKept;
 };
 Catalogue ReadCatalogue(const PageFile& file);

@@ -1,6 +1,7 @@
 #include "platform/jet/jet_reader.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "platform/files/safe_file.h"
 #include "platform/jet/catalogue.h"
@@ -43,6 +44,8 @@ TableDefinition DefinitionOf(const PageFile& file, const CatalogueTable& entry, 
 OpenTable Open(const PageFile& file, const CatalogueTable& entry) {
     OpenTable table;
     table.definition.name = entry.name;
+    table.fault = entry.fault;
+    if (!table.fault.empty()) return table;
     try {
         table.stored = ReadDefinition(file, entry.page);
         table.definition = DefinitionOf(file, entry, table);
@@ -58,10 +61,11 @@ struct Reader::File {
     PageFile pages;
     std::vector<std::string> names;
     std::vector<OpenTable> tables;
+    std::unordered_map<std::string, std::size_t> places;  // by name in lower case
+    Catalogue catalogue;
     NotKept notKept;
 
     File(std::string bytes, std::string_view name) : pages(std::move(bytes), std::string(name)) {
-        Catalogue catalogue;
         try {
             catalogue = ReadCatalogue(pages);
         } catch (const RuntimeError& error) {
@@ -72,15 +76,15 @@ struct Reader::File {
         notKept.password = pages.HasPassword();
         for (const CatalogueTable& entry : catalogue.tables) {
             names.push_back(entry.name);
+            places.emplace(LowerCase(entry.name), tables.size());
             tables.push_back(Open(pages, entry));
             notKept.relations = notKept.relations || tables.back().stored.hasRelations;
         }
     }
 
     const OpenTable* Find(std::string_view name) const {
-        for (const OpenTable& table : tables)
-            if (EqualsNoCase(table.definition.name, name)) return &table;
-        return nullptr;
+        const auto found = places.find(LowerCase(name));
+        return found == places.end() ? nullptr : &tables[found->second];
     }
 
     /// A table that can be read; throws otherwise.

@@ -43,6 +43,7 @@ class PageFile {
     const std::string& Name() const { return name_; }
     const Layout& Offsets() const { return layout_; }
     std::uint32_t PageCount() const { return pageCount_; }
+    std::size_t Size() const { return bytes_.size(); }
     /// Unmasked bytes 0x18 to 0x97 of the header.
     std::string_view Header() const { return header_; }
     bool HasPassword() const;

@@ -1,7 +1,6 @@
 #include "platform/jet/table_definition.h"
 
 #include <algorithm>
-#include <set>
 
 #include "platform/text/code_page.h"
 
@@ -9,25 +8,32 @@ namespace tendo::jet {
 namespace {
 
 constexpr std::size_t MaximumPages = 512;
+constexpr std::size_t MaximumLength = std::size_t{1}
+                                      << 18;  // all columns and indexes, longest names
 constexpr std::size_t MaximumColumns = 255;
 constexpr std::size_t MaximumIndexes = 255;
 constexpr std::size_t MaximumNameBytes = 256;
 constexpr std::size_t ContinuationHead = 8;
 
-std::string Block(const PageFile& file, std::uint32_t first) {
-    std::string block(file.Page(first, 2));
-    std::set<std::uint32_t> seen = {first};
+/// The block of a definition, put together from its pages.
+std::string Block(const PageFile& file, StoredTable& table) {
+    std::string block(file.Page(table.page, 2));
+    table.pages = {table.page};
+    table.length = Dword(block, 8);
+    if (table.length < file.Offsets().tableHead || table.length > MaximumLength)
+        Damaged("a table definition claims a length it can't have");
     for (std::uint32_t next = Dword(block, 4); next != 0;) {
-        if (!seen.insert(next).second || seen.size() > MaximumPages)
+        if (std::find(table.pages.begin(), table.pages.end(), next) != table.pages.end() ||
+            table.pages.size() > MaximumPages)
             Damaged("a table definition runs in a circle");
+        if (block.size() >= table.length) Damaged("a table definition goes on behind its end");
         const std::string_view page = file.Page(next, 2);
+        table.pages.push_back(next);
         block += page.substr(ContinuationHead);
         next = Dword(page, 4);
     }
-    const std::uint32_t length = Dword(block, 8);
-    if (length < file.Offsets().tableHead || length > block.size())
-        Damaged("a table definition is cut short");
-    block.resize(length);
+    if (table.length > block.size()) Damaged("a table definition is cut short");
+    block.resize(table.length);
     return block;
 }
 
@@ -47,6 +53,8 @@ class Walk {
         if (length > MaximumNameBytes) Damaged("a name in a table definition is too long");
         return StoredText(file_, Take(length));
     }
+    std::size_t At() const { return at_; }
+    std::size_t Left() const { return block_.size() - at_; }
 
   private:
     const PageFile& file_;
@@ -83,12 +91,6 @@ StoredColumn ReadColumn(const Layout& layout, std::string_view bytes) {
     return column;
 }
 
-/// The key columns of a real index by number, with their directions.
-struct RealIndex {
-    std::vector<std::pair<std::uint16_t, bool>> columns;  // number, descending
-    std::uint8_t flags = 0;
-};
-
 RealIndex ReadRealIndex(const Layout& layout, std::string_view bytes) {
     RealIndex index;
     const std::size_t fields = layout.jet4 ? 4 : 0;
@@ -97,6 +99,8 @@ RealIndex ReadRealIndex(const Layout& layout, std::string_view bytes) {
         if (number != 0xffff)
             index.columns.emplace_back(number, Byte(bytes, fields + 3 * i + 2) == 0);
     }
+    index.map = Dword(bytes, fields + 30);
+    index.root = Dword(bytes, fields + 34);
     index.flags = Byte(bytes, layout.jet4 ? 46 : 38);
     return index;
 }
@@ -137,7 +141,7 @@ void ReadColumns(const PageFile& file, Walk& walk, std::size_t count, StoredTabl
 void ReadIndexes(const PageFile& file, Walk& walk, std::size_t logical, std::size_t real,
                  StoredTable& table) {
     const Layout& layout = file.Offsets();
-    std::vector<RealIndex> reals;
+    std::vector<RealIndex>& reals = table.realIndexes;
     for (std::size_t i = 0; i < real; ++i)
         reals.push_back(ReadRealIndex(layout, walk.Take(layout.realIndex)));
     std::vector<std::pair<std::uint32_t, std::uint8_t>> logicals;  // real index, type
@@ -156,7 +160,52 @@ void ReadIndexes(const PageFile& file, Walk& walk, std::size_t logical, std::siz
     }
 }
 
+/// The maps of the long columns, up to a mark.
+void ReadLongColumns(Walk& walk, StoredTable& table) {
+    while (walk.Left() >= 2) {
+        LongColumn column;
+        column.number = Word(walk.Take(2), 0);
+        if (column.number == 0xffff) break;
+        column.map = Dword(walk.Take(4), 0);
+        column.roomMap = Dword(walk.Take(4), 0);
+        table.longColumns.push_back(column);
+    }
+    table.end = walk.At();
+}
+
+/// Overlapping fixed columns would let a small row claim any amount of data.
+void CheckFixedPart(const Layout& layout, const StoredTable& table) {
+    std::size_t bytes = 0;
+    for (const StoredColumn& column : table.columns)
+        if (column.IsFixed()) bytes += column.FixedBytes();
+    if (bytes > layout.page) Damaged("a table definition claims rows longer than a page");
+}
+
 }  // namespace
+
+std::size_t StoredColumn::FixedBytes() const {
+    switch (column.type) {
+        case ColumnType::Boolean:
+            return 0;
+        case ColumnType::Byte:
+            return 1;
+        case ColumnType::Integer:
+            return 2;
+        case ColumnType::Long:
+        case ColumnType::Single:
+            return 4;
+        case ColumnType::Currency:
+        case ColumnType::Double:
+        case ColumnType::Date:
+            return 8;
+        case ColumnType::Guid:
+            return 16;
+        case ColumnType::Numeric:
+            return 17;
+        default:
+            return bytes;
+    }
+}
 
 std::string StoredText(const PageFile& file, std::string_view bytes) {
     return file.Offsets().jet4 ? FromUtf16(bytes) : FromWindows1252(bytes);
@@ -164,9 +213,9 @@ std::string StoredText(const PageFile& file, std::string_view bytes) {
 
 StoredTable ReadDefinition(const PageFile& file, std::uint32_t page) {
     const Layout& layout = file.Offsets();
-    const std::string block = Block(file, page);
     StoredTable table;
     table.page = page;
+    const std::string block = Block(file, table);
     table.rows = Dword(block, layout.tableRows);
     table.maximumColumns = Word(block, layout.tableCounts);
     table.variableColumns = Word(block, layout.tableCounts + 2);
@@ -174,12 +223,15 @@ StoredTable ReadDefinition(const PageFile& file, std::uint32_t page) {
     const std::size_t logical = Dword(block, layout.tableIndexes);
     const std::size_t real = Dword(block, layout.tableIndexes + 4);
     table.dataMap = Dword(block, layout.tableIndexes + 8);
+    table.roomMap = Dword(block, layout.tableIndexes + 12);
     if (columns > MaximumColumns || columns > table.maximumColumns || logical > MaximumIndexes ||
         real > MaximumIndexes)
         Damaged("a table definition claims too much");
     Walk walk(file, block, layout.tableHead + real * layout.realHead);
     ReadColumns(file, walk, columns, table);
+    CheckFixedPart(layout, table);
     ReadIndexes(file, walk, logical, real, table);
+    ReadLongColumns(walk, table);
     return table;
 }
 
