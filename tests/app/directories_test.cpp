@@ -81,8 +81,8 @@ TEST_F(Directories, TheHomeGivenComesBeforeTheEnvironments) {
     setenv("XDG_DATA_HOME", "/data", 1);
     EXPECT_EQ(FindProgramDirectory(""), "/data/tendo/");
     unsetenv("XDG_DATA_HOME");
-    setenv("HOME", "/home/someone", 1);
-    EXPECT_EQ(FindProgramDirectory(""), "/home/someone/.local/share/tendo/");
+    setenv("HOME", "/users/ann", 1);
+    EXPECT_EQ(FindProgramDirectory(""), "/users/ann/.local/share/tendo/");
 }
 
 TEST_F(Directories, AFirstStartFillsInWhatIsMissingAndTouchesNothingElse) {

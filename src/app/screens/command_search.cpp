@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QTimer>
+#include <utility>
 
 #include "app/command_table.h"
 #include "app/screens/bar.h"
@@ -61,12 +62,15 @@ void CommandSearch::Refill() {
 void CommandSearch::RunEntry(const QString& entry) {
     const QList<QStandardItem*> found = model_.findItems(entry);
     if (found.isEmpty()) return;
-    const std::string tool = found.front()->data(toolRole).toString().toStdString();
+    // Return may tell the choice twice, by the box and by its list; the list's is the later one.
+    const bool waits = !chosenTool_.empty();
+    chosenTool_ = found.front()->data(toolRole).toString().toStdString();
+    if (waits) return;
     // The completer still writes its choice into the box when this returns.
-    QTimer::singleShot(0, this, [this, tool] {
+    QTimer::singleShot(0, this, [this] {
         clear();
         clearFocus();
-        ActiveBar_Click(tool);
+        ActiveBar_Click(std::exchange(chosenTool_, {}));
     });
 }
 

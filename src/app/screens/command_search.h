@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QStandardItemModel>
+#include <string>
 
 namespace tendo {
 
@@ -22,6 +23,7 @@ class CommandSearch : public QLineEdit {
     void RunEntry(const QString& entry);
 
     QStandardItemModel model_;
+    std::string chosenTool_;  // waits for its run
 };
 
 }  // namespace tendo

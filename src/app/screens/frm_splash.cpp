@@ -1,13 +1,16 @@
 #include "app/screens/frm_splash.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <QtEndian>
 
 #include "app/screens/pointer.h"
 #include "platform/qt/icons.h"
+#include "platform/qt/painter_metafile.h"
 #include "platform/qt/theme.h"
 #include "project/program_state.h"
 
@@ -15,21 +18,48 @@ namespace tendo {
 namespace {
 
 constexpr int logoWait = 1000;  // milliseconds
+constexpr qint64 largestMetafile = 1 << 20;
 constexpr QSize designSize(440, 260);
+constexpr QSize largestLogo(420, 240);
+// Logos are drawn for paper, so the screen is white in both sets of colours.
+const QColor paper("#ffffff");
+constexpr const char* paperText = "color: #1c2530";
+constexpr const char* paperQuietText = "color: #5c6a79";
 
-/// The logo from the program directory: as it is named, or in a form that every desktop can draw.
-QPixmap LogoPicture() {
-    const QString named = QString::fromStdString(State().ProgramDirectory + State().LogoFileName);
-    QPixmap picture(named);
-    for (const char* extension : {"svg", "png"})
-        if (picture.isNull()) picture = QPixmap(named.section('.', 0, -2) + "." + extension);
-    return picture;
+/// A Windows metafile in the proportions that its header tells; null when the file is none.
+QPixmap MetafilePicture(const QString& fileName) {
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    const QByteArray bytes = file.read(largestMetafile);
+    const auto corner = [&](int place) {
+        return place + 2 <= bytes.size() ? qFromLittleEndian<qint16>(bytes.constData() + place) : 0;
+    };
+    const QSize size(std::abs(corner(10) - corner(6)), std::abs(corner(12) - corner(8)));
+    if (size.isEmpty()) return {};
+    QPixmap picture(size.scaled(largestLogo, Qt::KeepAspectRatio));
+    picture.fill(paper);
+    QPainter painter(&picture);
+    const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    return PaintMetafile(painter, content, picture.rect()) ? picture : QPixmap();
 }
 
-QLabel* AddLine(QVBoxLayout* column, const char* name, const QString& text, const QFont& font) {
+/// The logo from the program directory: as it is named, or the drawing that comes with the program.
+QPixmap LogoPicture() {
+    const QString named = QString::fromStdString(State().ProgramDirectory + State().LogoFileName);
+    const QString stem = named.section('.', 0, -2);
+    QPixmap picture = MetafilePicture(named);
+    for (const QString& file : {named, stem + ".svg", stem + ".png"})
+        if (picture.isNull()) picture = QPixmap(file);
+    const QSize size = picture.size();
+    const bool large = size.width() > largestLogo.width() || size.height() > largestLogo.height();
+    return large ? picture.scaled(largestLogo, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+                 : picture;
+}
+
+QLabel* AddLine(QVBoxLayout* column, const char* name, const QString& text, const char* style) {
     auto* label = new QLabel(text);
     label->setObjectName(name);
-    label->setFont(font);
+    label->setStyleSheet(style);
     label->setAlignment(Qt::AlignCenter);
     column->addWidget(label);
     return label;
@@ -52,15 +82,12 @@ frmSplash::frmSplash(std::function<void()> endOfWait)
     logo->setPixmap(picture.isNull() ? LinePixmap("tendo", Theme().accent, 72, devicePixelRatioF())
                                      : picture);
     column->addWidget(logo);
-    QFont title = TotalFont();
-    title.setPointSizeF(title.pointSizeF() * 1.5);
-    AddLine(column, "lblTitle", "TENDO", title);
-    AddLine(column, "lblSubTitle", "HVAC Estimating and Sales Proposal Program", BodyFont());
+    if (picture.isNull()) AddLine(column, "lblTitle", "TENDO", paperText)->setFont(TotalFont());
+    AddLine(column, "lblSubTitle", "HVAC Estimating and Sales Proposal Program", paperText);
     column->addStretch();
     AddLine(column, "lblVersion", "Version " + QString::fromStdString(State().ProgramVersionText),
-            BodyFont())
-        ->setProperty("quiet", true);
-    setMinimumSize(picture.isNull() ? designSize : designSize.expandedTo(picture.size()));
+            paperQuietText);
+    setMinimumSize(designSize);
     tmrLetUserSeeLogo_->setObjectName("tmrLetUserSeeLogo");
     tmrLetUserSeeLogo_->setInterval(logoWait);
     connect(tmrLetUserSeeLogo_, &QTimer::timeout, this, &frmSplash::EndWait);
@@ -92,10 +119,9 @@ void frmSplash::mousePressEvent(QMouseEvent*) {
 
 void frmSplash::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), Theme().field);
+    painter.fillRect(rect(), paper);
     painter.setPen(Theme().line);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    painter.fillRect(QRect(0, 0, width(), 4), Theme().accent);
 }
 
 }  // namespace tendo

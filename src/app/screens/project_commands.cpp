@@ -11,6 +11,7 @@
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
 #include "platform/qt/dialogs.h"
+#include "platform/qt/form.h"
 #include "platform/text/date_text.h"
 #include "platform/text/number_text.h"
 #include "platform/text/runtime_error.h"
@@ -180,6 +181,7 @@ void mnuFileClose_Click() {
 
 void mnuFileSave_Click() {
     HourglassPointer();
+    Form::StoreAllFields();
     if (IsUntitled()) {
         mnuFileSaveAs_Click();
     } else {
@@ -193,6 +195,7 @@ void mnuFileSave_Click() {
 
 void mnuFileSaveAs_Click() {
     HourglassPointer();
+    Form::StoreAllFields();
     const std::string oldName = State().ProjectFileName;
     try {
         SaveWorkFile();

@@ -326,6 +326,14 @@ TEST_F(LifeCycle, WithAFileOnTheCommandLineTheOpenDialogComesUp) {
     EXPECT_FALSE(State().ProjectIsOpen);
 }
 
+TEST_F(LifeCycle, WithTheLastProjectOnRecordTheOpenDialogComesUpAndNothingIsOpenBehindIt) {
+    Write("Tendo.ini", "[Options]\nOpenLastProject=1\n[RecentFiles]\nLastOpened=Maple.tdw\n");
+    StartProgram();
+    EXPECT_EQ(dialogs->fileDialogs.size(), 1U);
+    EXPECT_FALSE(State().ProjectIsOpen);
+    EXPECT_EQ(Caption(), "Quick Tendo");
+}
+
 TEST_F(LifeCycle, DroppedFilesOpenOnlyOneProjectInSmallLetters) {
     StartProgram();
     MakeProject("Maple.tdw");
