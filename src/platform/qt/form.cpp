@@ -164,6 +164,11 @@ void Form::CommitFocusedField() {
     if (auto* field = qobject_cast<TextField*>(QApplication::focusWidget())) field->Commit();
 }
 
+void Form::StoreAllFields() {
+    CommitFocusedField();
+    for (Form* form : Loaded()) form->StoreFields();
+}
+
 void Form::closeEvent(QCloseEvent* event) {
     if (unloaded_) return;
     if (QWidget* focus = QApplication::focusWidget(); focus && isAncestorOf(focus))

@@ -63,6 +63,10 @@ class Form : public QWidget {
     /// does first.
     static void CommitFocusedField();
 
+    /// Commits the field in focus and lets every loaded form put what it holds in its fields into the records: what
+    /// a save, a preview or a print does first, so that paper and file tell what the screens show.
+    static void StoreAllFields();
+
     /// Reads and stores the place of any window under its section.
     static void RestorePlacement(QWidget* window, const QString& section);
     static void StorePlacement(const QWidget* window, const QString& section);
@@ -72,6 +76,8 @@ class Form : public QWidget {
   protected:
     /// Asked before the form unloads; false keeps it open.
     virtual bool QueryUnload() { return true; }
+    /// Puts what the form holds in its fields into the records.
+    virtual void StoreFields() {}
     /// Runs when the form unloads, after QueryUnload agreed.
     virtual void FormUnload() {}
     void closeEvent(QCloseEvent* event) override;

@@ -134,6 +134,7 @@ void FrmPreview::ShowAllReports() {
 
 void FrmPreview::RunChosenReport(int index) {
     const Hourglass pointer;
+    StoreAllFields();
     const ReportChoice& choice = reportChoices[static_cast<std::size_t>(index)];
     bool started = true;
     document_ = RunReports([&](PrintSurface& surface) {
