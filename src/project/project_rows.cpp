@@ -1,5 +1,6 @@
 #include "project/project_rows.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -76,10 +77,17 @@ const jet::TableDefinition& ProjectTable(std::string_view name) {
 }
 
 int PlaceOf(const std::vector<jet::Column>& columns, std::string_view name) {
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        if (EqualsNoCase(columns[i].name, name)) return static_cast<int>(i);
-    }
-    return -1;
+    // Nearly every file spells its columns as this program does; the slower comparison is for the
+    // others.
+    const auto exact = std::find_if(columns.begin(), columns.end(),
+                                    [&](const jet::Column& column) { return column.name == name; });
+    const auto found =
+        exact != columns.end()
+            ? exact
+            : std::find_if(columns.begin(), columns.end(), [&](const jet::Column& column) {
+                  return EqualsNoCase(column.name, name);
+              });
+    return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
 }
 
 void ThrowColumnMissing(std::string_view column) {
