@@ -86,6 +86,7 @@ void ReadOwner() {
 
 void WriteOwner(const OwnerRecord& owner) {
     std::vector<std::pair<std::string, std::string>> values;
+    values.reserve(OwnerKeys.size());
     for (const OwnerKey& entry : OwnerKeys)
         values.emplace_back(entry.key, owner.*entry.text);
     WriteProfileSection(Ini().AppProfileFileName, OwnerSection, values);

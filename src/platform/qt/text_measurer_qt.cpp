@@ -1,6 +1,7 @@
 #include "platform/qt/text_measurer_qt.h"
 
 #include <QString>
+#include <QStringList>
 #include <algorithm>
 #include <array>
 #include <cmath>
