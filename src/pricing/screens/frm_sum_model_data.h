@@ -1,0 +1,95 @@
+#pragma once
+
+#include <array>
+
+#include "platform/qt/form.h"
+#include "pricing/price_table.h"
+#include "pricing/screens/bound_fields.h"
+#include "pricing/screens/pricing_hooks.h"
+#include "project/project_records.h"
+
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QPushButton;
+class QScrollArea;
+class QVBoxLayout;
+
+namespace tendo {
+
+class SystemCardButton;
+
+/// Summary Model Data: the price table of the project above, the cooling and heating model of one
+/// system below. It shows what PriceTable holds and tells it what is typed.
+class frmSumModelData : public Form {
+    Q_OBJECT
+  public:
+    frmSumModelData();
+    ~frmSumModelData() override;
+
+    PriceTable& Table() { return table_; }
+    /// Records to screen, after another screen changed them.
+    void Refill();
+    /// The current system as it stands in the program's state, if another screen moved on.
+    void FollowSystem();
+
+    QSize sizeHint() const override;
+
+  protected:
+    void FormUnload() override;
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    // The layout (frm_sum_model_layout.cpp).
+    QWidget* MakeCards();
+    QWidget* MakePrices();
+    void AddHeadings(QGridLayout* grid, QWidget* parent);
+    void AddPriceRows(QGridLayout* grid, QWidget* parent);
+    void AddTotals(QGridLayout* grid, QWidget* parent);
+    QWidget* MakeTaxLabel(QWidget* parent);
+    QWidget* MakeEarnings();
+    void AddEarning(QVBoxLayout* column, QLabel* label, QWidget* value, QWidget* parent);
+    QWidget* MakeModels();
+    QWidget* MakeModelCard(ModelSide side, QWidget* parent);
+    QWidget* MakeScreenButtons();
+    void PassFocusOn();
+
+    void ShowSurroundings();
+    void WantHelp(TableField field);
+    void WantColumnHelp(FieldKind column);
+    void GoToSystem(int system);
+    void SystemMoved();
+    void SelectModel(ModelSide side);
+    void ChooseDatabase(TableField field);
+    void OpenScreen(const QString& name);
+
+    void btnNextSystem_Click();
+    void btnPreviousSystem_Click();
+
+    PriceTable table_{Project()};
+    BoundFields fields_{table_, this};
+    QScrollArea* scroll_;
+    QWidget* content_;
+    std::array<SystemCardButton*, SystemCount> cards_{};
+    QLabel* lblLabor_ = nullptr;
+    QLabel* lblTax_ = nullptr;     // the tax and its percentage, in what it earns
+    QLabel* lblTaxSum_ = nullptr;  // its amount
+    QLabel* lblTotal_ = nullptr;   // the one total of the screen
+    QGroupBox* fraModelInfo_ = nullptr;
+    QLabel* modelHeading_ = nullptr;
+    std::vector<std::pair<QPushButton*, QString>> screenButtons_;  // with their screens
+    int shownSystem_ = 0;
+    bool watchesActivation_ = false;
+};
+
+/// Opens the screen, or brings it forward.
+void ShowSumModelData();
+
+/// The price table of the open screen; nullptr when it is closed. The material and labor screens
+/// refill it after their totals changed.
+PriceTable* OpenPriceTable();
+
+/// Records to screen after another screen changed them; nothing when the screen is closed.
+void RefillSumModelData();
+
+}  // namespace tendo

@@ -1,0 +1,444 @@
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "platform/qt/dialogs.h"
+#include "platform/qt/icons.h"
+#include "platform/qt/theme.h"
+#include "pricing/screens/frm_sum_model_data.h"
+#include "pricing/screens/section_box.h"
+#include "pricing/screens/system_card_button.h"
+#include "project/program_state.h"
+
+namespace tendo {
+namespace {
+
+constexpr int fieldPadding = 9;  // between a field's edge and its text
+constexpr int labelColumn = 0;
+constexpr const char* widestMoney = "$9,999,999.99";
+
+struct Column {
+    FieldKind kind;
+    const char* heading;
+    const char* spoken;
+    const char* helpButton;
+};
+constexpr Column columns[] = {
+    {FieldKind::DealerCost, "Dealer cost", "Dealer cost", "btnHelpDealerCost"},
+    {FieldKind::DealerOverride, "Override", "Override", "btnHelpDealerOverride"},
+    {FieldKind::GrossMargin, "Gross margin %", "Gross margin", "btnHelpGrossMargin"},
+    {FieldKind::PriceMarkup, "Price markup %", "Price markup", "btnHelpPriceMarkup"},
+    {FieldKind::ListDiscount, "List discount %", "List discount", "btnHelpListDiscount"},
+    {FieldKind::SalePrice, "Sale price", "Sale price", "btnHelpSalePrice"},
+};
+
+/// lblLabor carries its text from the project, without a mnemonic.
+struct Row {
+    int priceRow;
+    const char* labelName;
+    const char* label;
+    const char* spoken;
+};
+constexpr Row rows[] = {
+    {price_row::Model, "lblModel", "&Models:", "models"},
+    {price_row::TaxMat, "lblTaxMat", "Taxa&ble materials:", "taxable materials"},
+    {price_row::NonTax, "lblNonTax", "&Non-taxable materials:", "non-taxable materials"},
+    {price_row::Labor, "lblLabor", "Labor (taxable):", "labor"},
+};
+
+/// Rows of the grid: the headings, the four rows, then these.
+constexpr int subTotalRow = 5, taxRow = 6, totalRow = 7;
+
+struct Single {
+    TableField field;
+    int row, column;
+    const char* spoken;
+};
+constexpr Single singles[] = {
+    {TableField::SubTotalSalePrice, subTotalRow, 6, "Sub-total"},
+    {TableField::TaxDealerCost, taxRow, 1, "Tax as a cost"},
+    {TableField::TaxDealerOverride, taxRow, 2, "Override of the tax"},
+    {TableField::TaxSalePrice, taxRow, 6, "Tax"},
+    {TableField::TotalDealerCost, totalRow, 1, "Total dealer cost"},
+    {TableField::TotalDealerOverride, totalRow, 2, "Total override"},
+    {TableField::TotalGrossMargin, totalRow, 3, "Total gross margin"},
+    {TableField::TotalSalePrice, totalRow, 6, "Total sale price"},
+};
+
+/// The names of one side's controls and fields in the lower half.
+struct Side {
+    const char* heading;
+    const char* style;
+    const char* spoken;
+    const char* selectButton;
+    const char* selectCaption;
+    const char* numberButton;
+    const char* databaseButton;
+    TableField DB, ModelNum, ModelQty, ModelDesc, ModelType, Cap, EFF;
+};
+const Side& SideOf(ModelSide side) {
+    static const Side sides[] = {
+        {"Cooling", "cooling", "Cooling", "btnSelectCLGModel", "Select &cooling model…",
+         "btnCLGModelNum", "btnCLGDB", TableField::CLGDB, TableField::CLGModelNum,
+         TableField::CLGModelQty, TableField::CLGModelDesc, TableField::CLGModelType,
+         TableField::CLGCap, TableField::CLGEFF},
+        {"Heating", "heating", "Heating", "btnSelectHTGModel", "Select heatin&g model…",
+         "btnHTGModelNum", "btnHTGDB", TableField::HTGDatabase, TableField::HTGModelNum,
+         TableField::HTGModelQty, TableField::HTGModelDesc, TableField::HTGModelType,
+         TableField::HTGCap, TableField::HTGEFF}};
+    return sides[static_cast<std::size_t>(side)];
+}
+
+QPushButton* MakeButton(const char* name, const QString& caption, QWidget* parent) {
+    auto* button = new QPushButton(caption, parent);
+    button->setObjectName(name);
+    return button;
+}
+
+QToolButton* MakeIconButton(const char* name, const char* icon, const QString& about,
+                            QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setObjectName(name);
+    button->setIcon(LineIcon(icon));
+    button->setIconSize(QSize(18, 18));
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setToolTip(about);
+    button->setAccessibleName(about);
+    return button;
+}
+
+QHBoxLayout* Beside(QWidget* first, QWidget* second, int spacing) {
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(spacing);
+    row->addWidget(first, 1);
+    row->addWidget(second);
+    return row;
+}
+
+/// As wide as a text in the body font needs.
+void FitText(QWidget* field, const QString& text) {
+    field->setMinimumWidth(field->fontMetrics().horizontalAdvance(text) + 2 * fieldPadding + 6);
+}
+
+/// A computed figure without a box of its own; still marked when it is fresh.
+void MakePlainFigure(TextField* field) {
+    field->setStyleSheet(
+        QString("QLineEdit { background: transparent; border-color: transparent; padding: 3px 1px "
+                "3px 2px; } QLineEdit[fresh=\"true\"] { background: %1; }")
+            .arg(Theme().fresh.name()));
+}
+
+}  // namespace
+
+frmSumModelData::frmSumModelData()
+    : Form("frmSumModelData", "Summary Model Data", Place::Child, "frmSumModelData"),
+      scroll_(new QScrollArea(this)),
+      content_(new QWidget) {
+    auto* frame = new QVBoxLayout(this);
+    frame->setContentsMargins(0, 0, 0, 0);
+    frame->addWidget(scroll_);
+    auto* column = new QVBoxLayout(content_);
+    column->setContentsMargins(16, 16, 16, 16);
+    column->setSpacing(14);
+    column->addWidget(MakeCards());
+    auto* upper = new QHBoxLayout;
+    upper->setSpacing(24);
+    upper->addWidget(MakePrices(), 1);
+    upper->addWidget(MakeEarnings());
+    column->addLayout(upper);
+    column->addWidget(MakeModels());
+    column->addWidget(MakeScreenButtons());
+    column->addStretch();
+    scroll_->setWidgetResizable(true);
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->setWidget(content_);
+    setMinimumSize(520, 320);
+
+    PassFocusOn();
+    setFocusProxy(fields_.At(TableField::ModelDealerOverride));
+    table_.ShowMessage = [](const std::string& title, const std::string& text) {
+        tendo::ShowMessage(title, text, MessageIcon::Warning);
+    };
+    connect(&fields_, &BoundFields::Recalculated, this, &frmSumModelData::ShowSurroundings);
+    connect(&fields_, &BoundFields::HelpWanted, this,
+            [this](int field) { WantHelp(static_cast<TableField>(field)); });
+    table_.Open();
+    SystemMoved();
+}
+
+QWidget* frmSumModelData::MakeCards() {
+    auto* box = new QWidget(content_);
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    for (int system = 0; system < SystemCount; ++system) {
+        auto* card = new SystemCardButton(system, box);
+        connect(card, &QAbstractButton::clicked, this, [this, system] { GoToSystem(system); });
+        row->addWidget(card, 1);
+        cards_[static_cast<std::size_t>(system)] = card;
+    }
+    return box;
+}
+
+QWidget* frmSumModelData::MakePrices() {
+    auto* box = new QWidget(content_);
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(4);
+    column->addWidget(MakeHeading("Price of the project, all systems", box));
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(6);
+    const int money = box->fontMetrics().horizontalAdvance(widestMoney) + 2 * fieldPadding + 4;
+    for (int i = 1; i <= static_cast<int>(std::size(columns)); ++i) {
+        grid->setColumnMinimumWidth(i, money);
+        grid->setColumnStretch(i, 1);
+    }
+    AddHeadings(grid, box);
+    AddPriceRows(grid, box);
+    AddTotals(grid, box);
+    column->addLayout(grid);
+    column->addStretch();
+    return box;
+}
+
+void frmSumModelData::AddHeadings(QGridLayout* grid, QWidget* parent) {
+    int at = labelColumn;
+    for (const Column& column : columns) {
+        auto* heading = new QHBoxLayout;
+        heading->setContentsMargins(0, 0, fieldPadding, 0);
+        heading->setSpacing(5);
+        const QString about = QString("What is the %1?").arg(QString(column.spoken).toLower());
+        QToolButton* help = MakeHelpButton(column.helpButton, about, parent);
+        help->setFocusPolicy(Qt::NoFocus);  // the field in focus tells the row; F1 does the same
+        connect(help, &QToolButton::clicked, this,
+                [this, kind = column.kind] { WantColumnHelp(kind); });
+        heading->addStretch();
+        heading->addWidget(help);
+        heading->addWidget(MakeHeading(column.heading, parent));
+        grid->addLayout(heading, 0, ++at);
+    }
+}
+
+void frmSumModelData::AddPriceRows(QGridLayout* grid, QWidget* parent) {
+    for (const Row& row : rows) {
+        auto* label = new QLabel(row.label, parent);
+        label->setObjectName(row.labelName);
+        grid->addWidget(label, row.priceRow, labelColumn);
+        int at = labelColumn;
+        for (const Column& column : columns) {
+            const QString spoken = QString("%1 of %2").arg(column.spoken, row.spoken);
+            grid->addWidget(fields_.Add(RowField(row.priceRow, column.kind), spoken, parent),
+                            row.priceRow, ++at);
+        }
+        label->setBuddy(fields_.At(RowField(row.priceRow, FieldKind::DealerOverride)));
+        if (row.priceRow == price_row::Labor) lblLabor_ = label;
+    }
+}
+
+QWidget* frmSumModelData::MakeTaxLabel(QWidget* parent) {
+    auto* box = new QWidget(parent);
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    TextField* percentage = fields_.Add(TableField::TaxPercentage, "Tax percentage", box);
+    FitText(percentage, "100.00");
+    percentage->setMaximumWidth(percentage->minimumWidth());
+    auto* label = new QLabel("Ta&x:", box);
+    label->setBuddy(percentage);
+    row->addWidget(label);
+    row->addWidget(percentage);
+    row->addWidget(new QLabel("%", box));
+    row->addStretch();
+    return box;
+}
+
+void frmSumModelData::AddTotals(QGridLayout* grid, QWidget* parent) {
+    grid->addWidget(new QLabel("Sub-total:", parent), subTotalRow, labelColumn);
+    grid->addWidget(MakeTaxLabel(parent), taxRow, labelColumn);
+    auto* total = new QLabel("T&otal:", parent);
+    total->setStyleSheet("font-weight: bold");
+    grid->addWidget(total, totalRow, labelColumn);
+    for (const Single& single : singles) {
+        TextField* field = fields_.Add(single.field, single.spoken, parent);
+        field->setProperty("strong", single.row == totalRow);
+        grid->addWidget(field, single.row, single.column);
+    }
+    total->setBuddy(fields_.At(TableField::TotalGrossMargin));
+}
+
+void frmSumModelData::AddEarning(QVBoxLayout* column, QLabel* label, QWidget* value,
+                                 QWidget* parent) {
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(label);
+    row->addWidget(value, 1);
+    column->addLayout(row);
+    column->addWidget(MakeRule(parent));
+}
+
+QWidget* frmSumModelData::MakeEarnings() {
+    auto* box = new QWidget(content_);
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(3);
+    column->addWidget(MakeHeading("What it earns", box));
+    column->addSpacing(4);
+    const auto figure = [&](TableField field, const char* name) {
+        TextField* line = fields_.Add(field, name, box);
+        MakePlainFigure(line);
+        FitText(line, widestMoney);
+        AddEarning(column, MakeLabel(name, nullptr, box), line, box);
+    };
+    figure(TableField::TaxableAmount, "Taxable amount");
+    lblTax_ = MakeLabel("", nullptr, box);
+    lblTaxSum_ = new QLabel(box);
+    lblTaxSum_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblTaxSum_->setMinimumHeight(fields_.At(TableField::TaxableAmount)->sizeHint().height());
+    lblTaxSum_->setContentsMargins(0, 0, 2, 0);
+    AddEarning(column, lblTax_, lblTaxSum_, box);
+    figure(TableField::Profit, "Profit");
+    figure(TableField::SuperProfit, "Extra profit");
+    auto* row = new QHBoxLayout;
+    auto* caption = new QLabel("Total", box);
+    caption->setFont(TotalFont());
+    lblTotal_ = new QLabel(box);
+    lblTotal_->setObjectName("lblTotal");
+    lblTotal_->setFont(TotalFont());
+    lblTotal_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblTotal_->setMinimumWidth(QFontMetrics(TotalFont()).horizontalAdvance(widestMoney) + 4);
+    row->addWidget(caption);
+    row->addWidget(lblTotal_, 1);
+    column->addSpacing(8);
+    column->addLayout(row);
+    column->addSpacing(8);
+    auto* customer = new QCheckBox("C&ustomer's view", box);
+    customer->setObjectName("chkHideInfo");
+    customer->setEnabled(false);
+    column->addWidget(customer);
+    column->addStretch();
+    return box;
+}
+
+QWidget* frmSumModelData::MakeModels() {
+    fraModelInfo_ = new SectionBox(content_);
+    fraModelInfo_->setObjectName("fraModelInfo");
+    auto* column = new QVBoxLayout(fraModelInfo_);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(8);
+    auto* head = new QHBoxLayout;
+    head->setSpacing(8);
+    modelHeading_ = MakeHeading("", fraModelInfo_);
+    QPushButton* previous = MakeButton("btnPreviousSystem", "‹ Pre&vious system", fraModelInfo_);
+    QPushButton* next = MakeButton("btnNextSystem", "Next s&ystem ›", fraModelInfo_);
+    connect(previous, &QPushButton::clicked, this, &frmSumModelData::btnPreviousSystem_Click);
+    connect(next, &QPushButton::clicked, this, &frmSumModelData::btnNextSystem_Click);
+    head->addWidget(modelHeading_);
+    head->addStretch();
+    head->addWidget(previous);
+    head->addWidget(next);
+    column->addLayout(head);
+    auto* cards = new QHBoxLayout;
+    cards->setSpacing(12);
+    cards->addWidget(MakeModelCard(ModelSide::Cooling, fraModelInfo_), 1);
+    cards->addWidget(MakeModelCard(ModelSide::Heating, fraModelInfo_), 1);
+    column->addLayout(cards);
+    return fraModelInfo_;
+}
+
+QWidget* frmSumModelData::MakeScreenButtons() {
+    struct ScreenButton {
+        const char* name;
+        const char* caption;
+        const char* screen;
+    };
+    constexpr ScreenButton buttons[] = {
+        {"btnWHInfo", "W&ater heater…", "frmWHInfo"},
+        {"btnDetailedModelData", "Deta&iled model data…", "frmDetailModelData"},
+        {"btnMaterialCosts", "Material co&sts…", "frmMatCosts"},
+        {"btnLaborCosts", "&Labor costs…", "frmLaborCosts"},
+    };
+    auto* box = new QWidget(content_);
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    for (const ScreenButton& button : buttons) {
+        QPushButton* made = MakeButton(button.name, button.caption, box);
+        const QString screen = button.screen;
+        connect(made, &QPushButton::clicked, this, [this, screen] { OpenScreen(screen); });
+        screenButtons_.emplace_back(made, screen);
+        row->addWidget(made);
+    }
+    row->addStretch();
+    return box;
+}
+
+/// Costs are computed, so the focus goes on to where they can be overridden.
+void frmSumModelData::PassFocusOn() {
+    for (const Row& row : rows)
+        fields_.PassFocus(RowField(row.priceRow, FieldKind::DealerCost),
+                          RowField(row.priceRow, FieldKind::DealerOverride));
+    fields_.PassFocus(TableField::TotalDealerCost, TableField::TotalDealerOverride);
+    fields_.PassFocus(TableField::TaxDealerCost, TableField::TotalDealerOverride);
+    fields_.PassFocus(TableField::TotalDealerOverride, TableField::TotalGrossMargin);
+}
+
+QWidget* frmSumModelData::MakeModelCard(ModelSide which, QWidget* parent) {
+    const Side& side = SideOf(which);
+    auto* card = new QFrame(parent);
+    card->setProperty("card", true);
+    card->setProperty("side", side.style);
+    auto* grid = new QGridLayout(card);
+    grid->setContentsMargins(14, 10, 14, 12);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(6);
+    const auto add = [&](TableField field, const char* label, int row, int at, int span,
+                         QToolButton* button = nullptr) {
+        const QString spoken = QString("%1 %2").arg(side.spoken, QString(label).toLower());
+        TextField* line = fields_.Add(field, spoken, card);
+        grid->addWidget(MakeLabel(label, line, card), row, at);
+        if (!button) return grid->addWidget(line, row, at + 1, 1, span);
+        QWidget::setTabOrder(line, button);
+        grid->addLayout(Beside(line, button, 4), row, at + 1, 1, span);
+    };
+    auto* heading = new QLabel(side.heading, card);
+    heading->setStyleSheet("font-weight: bold; border: 0");
+    QPushButton* select = MakeButton(side.selectButton, side.selectCaption, card);
+    connect(select, &QPushButton::clicked, this, [this, which] { SelectModel(which); });
+    grid->addWidget(heading, 0, 0, 1, 2);
+    grid->addWidget(select, 0, 2, 1, 4, Qt::AlignRight);
+    QToolButton* number =
+        MakeIconButton(side.numberButton, "search", "Choose from the database", card);
+    connect(number, &QToolButton::clicked, this, [this, which] { SelectModel(which); });
+    QToolButton* database =
+        MakeIconButton(side.databaseButton, "open", "Choose another model database", card);
+    connect(database, &QToolButton::clicked, this,
+            [this, field = side.DB] { ChooseDatabase(field); });
+    add(side.ModelNum, "Model", 1, 0, 3, number);
+    add(side.ModelQty, "Quantity", 1, 4, 1);
+    add(side.ModelDesc, "Description", 2, 0, 5);
+    add(side.ModelType, "Type", 3, 0, 1);
+    add(side.Cap, "Capacity", 3, 2, 1);
+    add(side.EFF, "Efficiency", 3, 4, 1);
+    add(side.DB, "Database", 4, 0, 5, database);
+    FitText(fields_.At(side.ModelType), "Ground Source Heat Pump");
+    FitText(fields_.At(side.Cap), "999.9 MBH");
+    FitText(fields_.At(side.EFF), "99.99 SEER");
+    for (const TableField field : {side.Cap, side.EFF})
+        fields_.At(field)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    grid->setColumnStretch(1, 3);
+    grid->setColumnStretch(3, 2);
+    grid->setColumnStretch(5, 2);
+    return card;
+}
+
+}  // namespace tendo

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+namespace tendo {
+
+enum class ModelSide { Cooling, Heating };
+
+/// What the price screens ask of higher rooms; set in one place, app/screens/wiring.cpp. A button
+/// whose screen isn't there is disabled.
+struct PricingScreenHooks {
+    /// Lets the user choose a model for the current system, and returns when that is done.
+    std::function<void(ModelSide)> SelectModel;
+    std::function<bool(const QString& name)> ScreenExists;
+    std::function<void(const QString& name)> ShowScreen;
+};
+PricingScreenHooks& PricingScreens();
+
+}  // namespace tendo
