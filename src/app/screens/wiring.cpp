@@ -5,7 +5,9 @@
 #include "app/screens/frm_about.h"
 #include "app/screens/screen_table.h"
 #include "materials/material_catalogue.h"
+#include "platform/database/database_hooks.h"
 #include "platform/qt/dialogs.h"
+#include "pricing/screens/frm_sum_model_data.h"
 #include "project/program_state.h"
 #include "project/screens/frm_gpd.h"
 #include "reports/screens/frm_preview.h"
@@ -20,7 +22,19 @@ Form* Make() {
 
 void EnterScreens() {
     RegisterScreen("frmGPD", Make<frmGPD>);
+    RegisterScreen("frmSumModelData", Make<frmSumModelData>);
     RegisterScreen("frmAbout", MakeAboutForm);
+}
+
+void RefillPriceScreen() {
+    if (auto* screen = qobject_cast<frmSumModelData*>(Form::Find("frmSumModelData")))
+        screen->Refill();
+}
+
+void WirePricing() {
+    PricingScreens().ScreenExists = ScreenExists;
+    PricingScreens().ShowScreen = ShowScreen;
+    ModelDatabasesChanged() = RefillPriceScreen;
 }
 
 }  // namespace
@@ -31,6 +45,13 @@ void WireRooms() {
     CatalogueHooks().Message = [](const std::string& text) { ShowMessage("TENDO", text); };
     CatalogueHooks().EnableTool = [](const std::string& tool) { MainBar().SetEnabled(tool, true); };
     RegisterProcedure("mnuFilePreview_Click", ShowPreview);
+    HooksOfDatabases().JetThreeKept = [](const std::string& file, const std::string& keptAs) {
+        ShowMessage("TENDO",
+                    file + " was written in a newer form of database.  Its original was kept as " +
+                        keptAs + ".",
+                    MessageIcon::Information);
+    };
+    WirePricing();
     EnterScreens();
 }
 

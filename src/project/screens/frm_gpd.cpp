@@ -33,6 +33,11 @@ std::string& ImportFileName() {
     return name;
 }
 
+std::function<void()>& ModelDatabasesChanged() {
+    static std::function<void()> hook;
+    return hook;
+}
+
 QString frmGPD::Shown::Value() const {
     return field ? field->text() : memo->toPlainText();
 }
@@ -77,7 +82,7 @@ void frmGPD::Store() {
     SetLaborRate(ValueOfText(txtLaborRate_->text().toStdString()));
     project.TaxLabor = OptTaxYes_->isChecked();
     project.DefaultDB = Trimmed(txtDefDB_->text().toStdString());
-    FillBlankModelDatabases();
+    if (FillBlankModelDatabases() && ModelDatabasesChanged()) ModelDatabasesChanged()();
     project.SingleProposalType = OptSingleProp_->isChecked();
     project.ImportGPD = chkImportData_->isChecked() ? 1 : 0;
     project.ImportGPD_FName =

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QTimer>
+#include <functional>
+#include <string>
 #include <vector>
 
 #include "platform/qt/form.h"
@@ -88,5 +90,9 @@ class frmGPD : public Form {
 
 /// The file that an import is to read, chosen on this screen; empty when none was.
 std::string& ImportFileName();
+
+/// Called when models without a database got the project's default one, for the screens that show
+/// it; set in one place, app/screens/wiring.cpp.
+std::function<void()>& ModelDatabasesChanged();
 
 }  // namespace tendo

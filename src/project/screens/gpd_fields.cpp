@@ -77,16 +77,22 @@ std::string StandardDefaultDB() {
     return manufacturer.empty() ? "Frostelm.mdb" : manufacturer;
 }
 
-void FillBlankModelDatabases() {
+bool FillBlankModelDatabases() {
     ProjectRecords& records = Project();
     const FixedText<50>& standard = records.GPDProjectFormat.DefaultDB;
+    if (standard.IsBlank()) return false;
+    bool filled = false;
     const auto fill = [&](auto& models) {
-        for (auto& model : models)
-            if (model.DB.Trimmed().empty()) model.DB = standard.Trimmed();
+        for (auto& model : models) {
+            if (!model.DB.Trimmed().empty()) continue;
+            model.DB = standard.Trimmed();
+            filled = true;
+        }
     };
     fill(records.CLGModelData);
     fill(records.HTGModelData);
     fill(records.WHModelData);
+    return filled;
 }
 
 void SetLaborRate(float rate) {

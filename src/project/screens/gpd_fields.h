@@ -37,8 +37,9 @@ const std::vector<GPDCheck>& GPDChecks();
 /// The default database of a project that names none: "DefaultManufacturer" of WIN.INI, or
 /// "Frostelm.mdb".
 std::string StandardDefaultDB();
-/// Gives each model record without a database the project's default one.
-void FillBlankModelDatabases();
+/// Gives each model record without a database the project's default one. True when there was such a
+/// record.
+bool FillBlankModelDatabases();
 /// The project's rate of labor, and of each labor line that has no hours yet.
 void SetLaborRate(float rate);
 
