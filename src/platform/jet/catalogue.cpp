@@ -57,7 +57,7 @@ Catalogue ReadCatalogue(const PageFile& file) {
     const CatalogueColumns at = FindColumns(objects);
     RowReader reader(file, objects);
     std::set<std::uint32_t> pages;
-    ForEachRow(file, objects, [&](std::string_view row) {
+    ForEachRow(file, objects, [&](std::string_view row, const RowPlace&) {
         const auto values = reader.Read(row);
         const std::int64_t type = NumberOf(values[at.type]);
         const auto flags = static_cast<std::uint32_t>(NumberOf(values[at.flags]));

@@ -5,6 +5,7 @@
 
 #include "platform/files/safe_file.h"
 #include "platform/jet/catalogue.h"
+#include "platform/jet/file_check.h"
 #include "platform/jet/row_reader.h"
 #include "platform/jet/row_scan.h"
 #include "platform/text/runtime_error.h"
@@ -145,7 +146,7 @@ std::size_t Reader::ReadRows(std::string_view name,
     std::vector<ValueView> shown(table.order.size());
     RowReader reader(file_->pages, table.stored);
     std::size_t count = 0;
-    const auto take = [&](std::string_view bytes) {
+    const auto take = [&](std::string_view bytes, const RowPlace&) {
         std::span<const ValueView> values = reader.Read(bytes);
         if (!inOrder) {
             for (std::size_t i = 0; i < shown.size(); ++i)
@@ -165,19 +166,9 @@ std::size_t Reader::ReadRows(std::string_view name,
 }
 
 std::vector<std::string> Reader::Check() const {
-    std::vector<std::string> faults;
-    for (const OpenTable& table : file_->tables) {
-        try {
-            const std::size_t rows =
-                ReadRows(table.definition.name, [](std::span<const ValueView>) { return true; });
-            if (rows != table.stored.rows)
-                faults.push_back(
-                    file_->Fault(table, "it tells of " + std::to_string(table.stored.rows) +
-                                            " rows and holds " + std::to_string(rows)));
-        } catch (const RuntimeError& error) {
-            faults.push_back(error.Description());
-        }
-    }
+    std::vector<std::string> faults = CheckFile(file_->pages, file_->catalogue);
+    for (std::string& fault : faults)
+        fault = file_->pages.Name() + ": " + fault;
     return faults;
 }
 

@@ -5,6 +5,12 @@
 
 namespace tendo::jet {
 
+/// Where a row stands: page << 8 | row. A moved row counts at the place of its pointer.
+struct RowPlace {
+    std::uint32_t row = 0;
+    std::uint32_t target = 0;  // of a moved row; 0: it hasn't moved
+};
+
 /// The row that a moved one left its pointer to: hidden, on a page of the same table.
 inline std::string_view MovedRow(const PageFile& file, const StoredTable& table,
                                  std::uint32_t pointer) {
@@ -15,8 +21,8 @@ inline std::string_view MovedRow(const PageFile& file, const StoredTable& table,
     return row.bytes;
 }
 
-/// Calls `take` with the bytes of each row of a table in its order; deleted and hidden rows are
-/// passed over, a moved one is followed. `take` returns false to stop.
+/// Calls `take` with the bytes and the place of each row of a table in its order; deleted and
+/// hidden rows are passed over, a moved one is followed. `take` returns false to stop.
 template <class Take>
 void ForEachRow(const PageFile& file, const StoredTable& table, Take take) {
     for (const std::uint32_t number : PagesOfMap(file, table.dataMap)) {
@@ -27,8 +33,12 @@ void ForEachRow(const PageFile& file, const StoredTable& table, Take take) {
         for (std::size_t i = 0; i < count; ++i) {
             PageFile::RowBytes row = file.Row(page, i);
             if (row.flags & 0x8000) continue;
-            if (row.flags & 0x4000) row.bytes = MovedRow(file, table, Dword(row.bytes, 0));
-            if (!take(row.bytes)) return;
+            RowPlace place{number << 8 | static_cast<std::uint32_t>(i), 0};
+            if (row.flags & 0x4000) {
+                place.target = Dword(row.bytes, 0);
+                row.bytes = MovedRow(file, table, place.target);
+            }
+            if (!take(row.bytes, place)) return;
         }
     }
 }

@@ -69,6 +69,7 @@ StoredColumn ReadColumn(const Layout& layout, std::string_view bytes) {
         column.number = Word(bytes, 5);
         column.variable = Word(bytes, 7);
         column.ordinal = Word(bytes, 9);
+        column.order = Dword(bytes, 11);
         column.column.precision = Byte(bytes, 11);
         column.column.scale = Byte(bytes, 12);
         column.flags = Byte(bytes, 15);

@@ -16,6 +16,7 @@ struct StoredColumn {
     std::uint16_t bytes = 0;     // declared size in bytes
     std::uint8_t flags = 0;
     std::uint16_t ordinal = 0;
+    std::uint32_t order = 0;  // of texts: locale and version, 0x409 is the General order
     bool IsFixed() const { return flags & 1; }
     /// Bytes in the fixed part: by the type, for text and binary as declared.
     std::size_t FixedBytes() const;
