@@ -19,6 +19,7 @@
 #include "app/screens/screen_table.h"
 #include "app/screens/status_line.h"
 #include "app/screens/toolbar_commands.h"
+#include "app/screens/window_commands.h"
 #include "app/screens/workspace.h"
 #include "app/startup.h"
 #include "materials/material_catalogue.h"
@@ -94,6 +95,7 @@ void frmMDI::Observe() {
     });
     SetListObserver([this] {
         ColorNewScreens();
+        PlaceNewWindows();
         RefreshCheckedTools();
         status_->ShowFiles();
     });

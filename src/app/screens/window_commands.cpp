@@ -2,6 +2,7 @@
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <algorithm>
 
 #include "app/screens/project_commands.h"
 #include "platform/qt/form.h"
@@ -47,7 +48,27 @@ void Tile(bool side) {
     }
 }
 
+/// The corner at which a new window stands when nothing else is known.
+constexpr QPoint firstPlace(24, 16);
+constexpr const char* placedFlag = "placed";
+
+void PlaceWindow(QMdiSubWindow* window, const QSize& room) {
+    const QPoint spare(std::max(0, room.width() - window->width()),
+                       std::max(0, room.height() - window->height()));
+    QPoint place = window->pos();
+    if (place.isNull()) place = firstPlace;
+    window->move(std::clamp(place.x(), 0, spare.x()), std::clamp(place.y(), 0, spare.y()));
+}
+
 }  // namespace
+
+void PlaceNewWindows() {
+    for (QMdiSubWindow* window : OpenWindows(false)) {
+        if (window->property(placedFlag).toBool() || window->isMaximized()) continue;
+        window->setProperty(placedFlag, true);
+        PlaceWindow(window, Form::Workspace()->viewport()->size());
+    }
+}
 
 void mnuWindowCascade_Click() {
     if (QMdiArea* area = Form::Workspace()) area->cascadeSubWindows();

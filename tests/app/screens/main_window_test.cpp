@@ -3,6 +3,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QToolBar>
 
@@ -195,6 +197,19 @@ TEST_F(MainWindow, TheScreenInFrontMarksItsTool) {
     QApplication::processEvents();
     EXPECT_EQ(Form::Find("frmGPD"), nullptr);
     EXPECT_FALSE(FindTool("ToolGPD")->checked);
+}
+
+TEST_F(MainWindow, ANewScreenStandsWhollyInsideTheWorkspace) {
+    ActiveBarClick("ToolNew");
+    ActiveBarClick("ToolSystemTendos");
+    for (const char* name : {"frmGPD", "frmSumModelData"}) {
+        const QMdiSubWindow* window = Form::Find(name)->SubWindow();
+        const QRect room = Form::Workspace()->viewport()->rect();
+        EXPECT_GE(window->x(), 0);
+        EXPECT_GE(window->y(), 0);
+        EXPECT_LE(window->geometry().right(), room.right()) << name;
+        EXPECT_LE(window->geometry().bottom(), room.bottom()) << name;
+    }
 }
 
 TEST_F(MainWindow, AMaximizedWindowKeepsTheSizeItHadWhenLastNormal) {
