@@ -1,6 +1,5 @@
 #include "pricing/screens/frm_sum_model_data.h"
 
-#include <QGroupBox>
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QPushButton>
@@ -49,20 +48,22 @@ void frmSumModelData::showEvent(QShowEvent* event) {
     connect(SubWindow(), &QMdiSubWindow::aboutToActivate, this, &frmSumModelData::FollowSystem);
 }
 
+/// Wide enough for every figure; the entry lines' own hints ask for more than any figure takes.
 QSize frmSumModelData::sizeHint() const {
-    return content_->sizeHint();
+    return {content_->minimumSizeHint().width() + 24, content_->sizeHint().height()};
 }
 
 void frmSumModelData::ShowSurroundings() {
     lblLabor_->setText(Q(LaborLabel(Project())));
     const QString percentage = fields_.At(TableField::TaxPercentage)->text();
     lblTax_->setText("Tax " + percentage + " %");
-    lblTaxSum_->setText(Q(table_.Text(TableField::TaxSalePrice)));
+    taxSum_->ShowText(Q(table_.Text(TableField::TaxSalePrice)));
     const QString total = Q(table_.Text(TableField::TotalSalePrice));
     lblTotal_->setText(total);
     SetStyleFlag(lblTotal_, "negative", total.startsWith('-'));
     const QString caption = Q(SystemCaption(State().SystemNumber));
-    fraModelInfo_->setTitle(caption);
+    fraModelInfo_->setProperty("caption", caption);
+    fraModelInfo_->setAccessibleName(caption);
     modelHeading_->setText(caption);
     for (int system = 0; system < SystemCount; ++system) {
         auto* card = cards_[static_cast<std::size_t>(system)];

@@ -9,7 +9,7 @@
 #include "project/project_records.h"
 
 class QGridLayout;
-class QGroupBox;
+class QFrame;
 class QLabel;
 class QPushButton;
 class QScrollArea;
@@ -73,9 +73,9 @@ class frmSumModelData : public Form {
     std::array<SystemCardButton*, SystemCount> cards_{};
     QLabel* lblLabor_ = nullptr;
     QLabel* lblTax_ = nullptr;     // the tax and its percentage, in what it earns
-    QLabel* lblTaxSum_ = nullptr;  // its amount
+    TextField* taxSum_ = nullptr;  // its amount
     QLabel* lblTotal_ = nullptr;   // the one total of the screen
-    QGroupBox* fraModelInfo_ = nullptr;
+    QFrame* fraModelInfo_ = nullptr;
     QLabel* modelHeading_ = nullptr;
     std::vector<std::pair<QPushButton*, QString>> screenButtons_;  // with their screens
     int shownSystem_ = 0;

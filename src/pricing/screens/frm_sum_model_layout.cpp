@@ -1,6 +1,5 @@
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -12,14 +11,14 @@
 #include "platform/qt/icons.h"
 #include "platform/qt/theme.h"
 #include "pricing/screens/frm_sum_model_data.h"
-#include "pricing/screens/section_box.h"
 #include "pricing/screens/system_card_button.h"
 #include "project/program_state.h"
 
 namespace tendo {
 namespace {
 
-constexpr int fieldPadding = 9;  // between a field's edge and its text
+constexpr int fieldPadding = 9;   // between a field's edge and its text
+constexpr int headingMargin = 13;  // puts a heading above the right edge of its figures
 constexpr int labelColumn = 0;
 constexpr const char* widestMoney = "$9,999,999.99";
 
@@ -130,6 +129,8 @@ void FitText(QWidget* field, const QString& text) {
 
 /// A computed figure without a box of its own; still marked when it is fresh.
 void MakePlainFigure(TextField* field) {
+    FitText(field, widestMoney);
+    field->setMaximumWidth(field->minimumWidth());
     field->setStyleSheet(
         QString("QLineEdit { background: transparent; border-color: transparent; padding: 3px 1px "
                 "3px 2px; } QLineEdit[fresh=\"true\"] { background: %1; }")
@@ -215,7 +216,7 @@ void frmSumModelData::AddHeadings(QGridLayout* grid, QWidget* parent) {
     int at = labelColumn;
     for (const Column& column : columns) {
         auto* heading = new QHBoxLayout;
-        heading->setContentsMargins(0, 0, fieldPadding, 0);
+        heading->setContentsMargins(0, 0, headingMargin, 0);
         heading->setSpacing(5);
         const QString about = QString("What is the %1?").arg(QString(column.spoken).toLower());
         QToolButton* help = MakeHelpButton(column.helpButton, about, parent);
@@ -280,8 +281,8 @@ void frmSumModelData::AddEarning(QVBoxLayout* column, QLabel* label, QWidget* va
                                  QWidget* parent) {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(label);
-    row->addWidget(value, 1);
+    row->addWidget(label, 1);
+    row->addWidget(value);
     column->addLayout(row);
     column->addWidget(MakeRule(parent));
 }
@@ -296,16 +297,13 @@ QWidget* frmSumModelData::MakeEarnings() {
     const auto figure = [&](TableField field, const char* name) {
         TextField* line = fields_.Add(field, name, box);
         MakePlainFigure(line);
-        FitText(line, widestMoney);
         AddEarning(column, MakeLabel(name, nullptr, box), line, box);
     };
     figure(TableField::TaxableAmount, "Taxable amount");
     lblTax_ = MakeLabel("", nullptr, box);
-    lblTaxSum_ = new QLabel(box);
-    lblTaxSum_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    lblTaxSum_->setMinimumHeight(fields_.At(TableField::TaxableAmount)->sizeHint().height());
-    lblTaxSum_->setContentsMargins(0, 0, 2, 0);
-    AddEarning(column, lblTax_, lblTaxSum_, box);
+    taxSum_ = new TextField(FieldSpec{.name = "", .label = "Tax", .kind = EntryKind::Figure}, box);
+    MakePlainFigure(taxSum_);
+    AddEarning(column, lblTax_, taxSum_, box);
     figure(TableField::Profit, "Profit");
     figure(TableField::SuperProfit, "Extra profit");
     auto* row = new QHBoxLayout;
@@ -330,7 +328,7 @@ QWidget* frmSumModelData::MakeEarnings() {
 }
 
 QWidget* frmSumModelData::MakeModels() {
-    fraModelInfo_ = new SectionBox(content_);
+    fraModelInfo_ = new QFrame(content_);
     fraModelInfo_->setObjectName("fraModelInfo");
     auto* column = new QVBoxLayout(fraModelInfo_);
     column->setContentsMargins(0, 0, 0, 0);

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "equipment/model_selection.h"
+
+namespace tendo {
+
+/// The rows of one tab for a grid; each cell is asked for when it is shown.
+class ModelGrid : public QAbstractTableModel {
+    Q_OBJECT
+  public:
+    ModelGrid(const ModelSelection& selection, int tab, QObject* parent);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    /// The tab's query ran anew. `change` runs it, between the two notices a view needs.
+    void Reset(const std::function<void()>& change);
+    /// A width, in pixels, that a column's heading and its first rows fit in.
+    int FittingWidth(int column, const QFont& font, const QFont& headingFont) const;
+
+  private:
+    bool IsNumber(int column) const;
+
+    const ModelSelection& selection_;
+    int tab_;
+};
+
+}  // namespace tendo
