@@ -86,7 +86,7 @@ std::string FindCommonDirectory(const CommonDirectoryQuestions& questions) {
                    "dialog...");
     const std::optional<std::string> chosen = questions.Locate();
     if (chosen && FileExists(*chosen) && UpperCase(BaseName(*chosen)) == LocateFile) {
-        const std::string directory = WithSeparator(DirectoryOf(*chosen));
+        std::string directory = WithSeparator(DirectoryOf(*chosen));
         WriteProfileString(State().WinIniFile, velmoSection, "CommonDirectory", directory);
         return directory;
     }
