@@ -51,6 +51,8 @@ class ExpressionReader {
     Operand Read();
     /// An expression that is true or false, ready for WHERE or ON.
     std::string ReadCondition();
+    /// The same of what was read: RuntimeError 3464 for a text.
+    static std::string ConditionSql(const Operand& operand);
     /// The value as the user's language counts it: True is -1.
     static std::string ValueSql(const Operand& operand);
 
@@ -70,7 +72,6 @@ class ExpressionReader {
     Operand ReadBetween(const Operand& left);
     Operand ReadIn(const Operand& left);
     Operand Calculated(const Operand& left, const std::string& sign, const Operand& right);
-    std::string ConditionSql(const Operand& operand);
     void CheckComparable(const Operand& left, const Operand& right);
     Operand ColumnOf(std::string_view sourceName, std::string_view column);
     bool HasColumn(std::string_view column) const;

@@ -273,9 +273,9 @@ bool IsSelect(std::string_view text) {
 std::string ReadCriteria(std::string_view text, const std::vector<Source>& sources,
                          std::vector<Parameter>& parameters) {
     TokenCursor cursor(text, {error_number::SyntaxErrorInCriteria, UnknownNameInCriteria});
-    const std::string condition = ExpressionReader(cursor, sources, parameters).ReadCondition();
-    cursor.ExpectEnd();
-    return condition;
+    const Operand condition = ExpressionReader(cursor, sources, parameters).Read();
+    cursor.ExpectEnd();  // a broken text is told before types that don't meet
+    return ExpressionReader::ConditionSql(condition);
 }
 
 }  // namespace tendo::query
