@@ -1,10 +1,12 @@
 #include "equipment/screens/frm_model_selection.h"
 
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QTabWidget>
 #include <QTableView>
 
@@ -28,9 +30,10 @@ QString Q(std::string_view text) {
 
 QSize frmModelSelection::sizeHint() const {
     const int letter = fontMetrics().averageCharWidth();
-    return QSize(letter * 165, fontMetrics().height() * 40)
+    const QSize room = screen()->availableSize() * 0.94;
+    return QSize(letter * 165, fontMetrics().height() * 42)
         .expandedTo(minimumSizeHint())
-        .boundedTo(QSize(1400, 900));
+        .boundedTo(room);
 }
 
 void frmModelSelection::OpenDatabase() {
@@ -67,9 +70,10 @@ void frmModelSelection::ShowTab(int tab) {
         const QScopedValueRollback<bool> showing(showing_, true);
         grid->Reset([] {});
     }
-    for (int column = 0; column < grid->columnCount(); ++column)
-        view->setColumnWidth(
-            column, grid->FittingWidth(column, view->font(), view->horizontalHeader()->font()));
+    const std::vector<int> widths =
+        grid->FittingWidths(view->font(), view->horizontalHeader()->font());
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        view->setColumnWidth(static_cast<int>(column), widths[column]);
     ShowCurrentRow(tab);
 }
 
@@ -102,8 +106,8 @@ void frmModelSelection::ShowTexts() {
         limitButtons_[i]->setText(Q(selection_.LimitLabel(static_cast<ModelLimit>(i))));
     btnSearch_->setText(Q(selection_.SearchLabel()));
     const int all = selection_.TotalRowCount(tab);
-    lblCount_->setText(
-        QString("%1 of %2 %3").arg(selection_.RowCount(tab)).arg(all).arg(Q(ModelTabAt(tab).kind)));
+    lblCount_->setText(QString("%1 of %2").arg(selection_.RowCount(tab)).arg(all) +
+                       Q(ModelTabAt(tab).kindText));
     ShowEPAMark(tab);
     ShowChoice();
 }

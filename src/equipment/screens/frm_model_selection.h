@@ -34,6 +34,7 @@ class frmModelSelection : public Form {
   private:
     // The layout (model_selection_layout.cpp).
     QWidget* MakeDatabaseRow();
+    QWidget* MakeLimitRow();
     QWidget* MakeTabs();
     QTableView* MakeGrid(int tab);
     QWidget* MakeCommandRow();

@@ -8,8 +8,8 @@ namespace tendo {
 namespace {
 
 constexpr int measuredRows = 40;  // the widths come from these; all rows of a table look alike
-constexpr int widestColumn = 340;
-constexpr int cellPadding = 2 * 8 + 8;
+constexpr int widestCell = 56;    // letters
+constexpr int cellPadding = 26;
 
 }  // namespace
 
@@ -70,14 +70,21 @@ void ModelGrid::Reset(const std::function<void()>& change) {
     endResetModel();
 }
 
-int ModelGrid::FittingWidth(int column, const QFont& font, const QFont& headingFont) const {
+std::vector<int> ModelGrid::FittingWidths(const QFont& font, const QFont& headingFont) const {
     const QFontMetrics cells(font), headings(headingFont);
-    int width =
-        headings.horizontalAdvance(headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+    std::vector<int> widths;
+    for (int column = 0; column < columnCount(); ++column)
+        widths.push_back(headings.horizontalAdvance(
+            headerData(column, Qt::Horizontal, Qt::DisplayRole).toString()));
     for (int row = 0; row < std::min(rowCount(), measuredRows); ++row)
-        width = std::max(width, cells.horizontalAdvance(QString::fromStdString(
-                                    selection_.CellText(tab_, row, column))));
-    return std::min(width + cellPadding, widestColumn);
+        for (int column = 0; column < columnCount(); ++column) {
+            int& width = widths[static_cast<std::size_t>(column)];
+            width = std::max(width, cells.horizontalAdvance(QString::fromStdString(
+                                        selection_.CellText(tab_, row, column))));
+        }
+    for (int& width : widths)
+        width = std::min(width, widestCell * cells.averageCharWidth()) + cellPadding;
+    return widths;
 }
 
 }  // namespace tendo

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <functional>
+#include <vector>
 
 #include "equipment/model_selection.h"
 
@@ -19,8 +21,8 @@ class ModelGrid : public QAbstractTableModel {
 
     /// The tab's query ran anew. `change` runs it, between the two notices a view needs.
     void Reset(const std::function<void()>& change);
-    /// A width, in pixels, that a column's heading and its first rows fit in.
-    int FittingWidth(int column, const QFont& font, const QFont& headingFont) const;
+    /// Widths, in pixels, that each column's heading and its first rows fit in.
+    std::vector<int> FittingWidths(const QFont& font, const QFont& headingFont) const;
 
   private:
     bool IsNumber(int column) const;

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "equipment/model_database.h"
+#include "equipment/screens/elided_label.h"
 #include "equipment/screens/frm_model_selection.h"
 #include "equipment/screens/model_grid.h"
 #include "platform/qt/dialogs.h"
@@ -20,6 +21,11 @@ namespace tendo {
 namespace {
 
 constexpr const char* messageTitle = "TENDO";
+
+/// Headings stand exactly above their cells' texts; the corner between the scroll bars is bare.
+constexpr const char* gridSheet =
+    "QHeaderView::section { padding: 6px 11px; } QTableView QTableCornerButton::section, "
+    "QAbstractScrollArea::corner { background: transparent; border: 0; }";
 
 /// In the order of ModelLimit.
 constexpr const char* limitButtonNames[] = {"btnSetMinimumCapacity", "btnSetMaximumCapacity",
@@ -54,6 +60,7 @@ frmModelSelection::frmModelSelection(SelectionMode mode)
     column->setContentsMargins(16, 16, 16, 16);
     column->setSpacing(12);
     column->addWidget(MakeDatabaseRow());
+    column->addWidget(MakeLimitRow());
     column->addWidget(MakeTabs(), 1);
     column->addWidget(MakeCommandRow());
     connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this,
@@ -81,13 +88,21 @@ QWidget* frmModelSelection::MakeDatabaseRow() {
     row->addWidget(MakeLabel("&Database", txtDatabase_, box));
     row->addWidget(txtDatabase_, 1);
     row->addWidget(browse);
-    row->addSpacing(16);
+    return box;
+}
+
+QWidget* frmModelSelection::MakeLimitRow() {
+    auto* box = new QWidget(this);
+    QHBoxLayout* row = RowOf(box);
     for (std::size_t i = 0; i < limitButtons_.size(); ++i) {
         const auto limit = static_cast<ModelLimit>(i);
         limitButtons_[i] = MakeButton(limitButtonNames[i], "", box);
         connect(limitButtons_[i], &QPushButton::clicked, this, [this, limit] { SetLimit(limit); });
         row->addWidget(limitButtons_[i]);
     }
+    lblCount_ = new ElidedLabel(box);
+    lblCount_->setObjectName("lblCount");
+    row->addWidget(lblCount_, 1);
     return box;
 }
 
@@ -107,12 +122,6 @@ QWidget* frmModelSelection::MakeTabs() {
         tabModels_->addTab(page, QString::fromUtf8(name.data(), qsizetype(name.size())));
         tabModels_->setTabVisible(tab, selection_.IsVisible(tab));
     }
-    lblCount_ = MakeLabel("", nullptr, tabModels_);
-    lblCount_->setObjectName("lblCount");
-    lblCount_->setMinimumWidth(
-        fontMetrics().horizontalAdvance("99999 of 99999 ground source heat pumps"));
-    lblCount_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    tabModels_->setCornerWidget(lblCount_);
     return tabModels_;
 }
 
@@ -136,6 +145,8 @@ QTableView* frmModelSelection::MakeGrid(int tab) {
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 12);
     view->horizontalHeader()->setHighlightSections(false);
+    view->horizontalHeader()->setStretchLastSection(true);
+    view->setStyleSheet(gridSheet);
     view->horizontalHeader()->setMinimumSectionSize(40);
     view->installEventFilter(this);
     connect(view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -161,7 +172,7 @@ QWidget* frmModelSelection::MakeCommandRow() {
     QPushButton* select = MakeButton(
         "btnSelectModel", QString::fromUtf8(caption.data(), qsizetype(caption.size())), box);
     select->setProperty("primary", true);
-    lblChoice_ = MakeLabel("", nullptr, box);
+    lblChoice_ = new ElidedLabel(box);
     lblChoice_->setObjectName("lblChoice");
     connect(btnSearch_, &QPushButton::clicked, this, &frmModelSelection::btnSearch_Click);
     connect(btnRepeatSearch_, &QPushButton::clicked, this,
@@ -176,8 +187,7 @@ QWidget* frmModelSelection::MakeCommandRow() {
         row->addSpacing(8);
         row->addWidget(chkWHProvidesHeat_);
     }
-    row->addStretch();
-    row->addWidget(lblChoice_);
+    row->addWidget(lblChoice_, 1);
     row->addSpacing(8);
     row->addWidget(close);
     row->addWidget(select);
