@@ -2,6 +2,6 @@
 # Prints the speed and memory ratios; exit 1 when a limit is missed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-mkdir -p build/bench/work
-QT_QPA_PLATFORM=offscreen build/bench/bin/tendo-bench build/bench/work build/bench/share/tendo
-build/bench/bin/tendo-bench-micro --benchmark_min_time=0.2 --benchmark_color=false 2>/dev/null
+mkdir -p build/bench-work
+QT_QPA_PLATFORM=offscreen build/release/bin/tendo-bench build/bench-work build/release/share/tendo
+build/release/bin/tendo-bench-micro --benchmark_min_time=0.2 --benchmark_color=false 2>/dev/null

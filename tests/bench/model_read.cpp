@@ -1,7 +1,10 @@
+// glib stands ahead of mdbtools.h, which would take it in as C.
+#include <glib.h>
+
 #include <mdbtools.h>
 #include <sqlite3.h>
 
-#include <cmath>
+#include <cstring>
 #include <stdexcept>
 
 #include "benchmarks.h"

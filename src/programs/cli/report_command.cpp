@@ -67,6 +67,8 @@ void RunReport(const Arguments& arguments) {
     ReadSettings(arguments.Value("--home"), records);
 
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What Qt has to say of the desktop is no message of this program.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     int count = 1;
     char name[] = "tendo-cli";
     char* words[] = {name, nullptr};

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QMdiSubWindow>
 
 #include "app/screens/application.h"
 #include "platform/files/paths.h"

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <iostream>
 
+#include "platform/qt/theme.h"
 #include "programs/driver/session.h"
 
 namespace {
@@ -22,6 +23,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    tendo::ApplyTheme(application);
 
     QCommandLineParser parser;
     parser.setApplicationDescription("Runs Tendo with its real screens from a script.");

@@ -1,6 +1,7 @@
 #include "programs/driver/session.h"
 
 #include <QApplication>
+#include <QMdiSubWindow>
 #include <QPointer>
 #include <filesystem>
 #include <iostream>
