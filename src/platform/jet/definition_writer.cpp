@@ -58,8 +58,8 @@ std::string Head(const TablePlan& plan, const DefinitionFigures& figures) {
     AppendWord(block, columns);
     AppendDword(block, static_cast<std::uint32_t>(plan.indexes.size()));
     AppendDword(block, static_cast<std::uint32_t>(plan.indexes.size()));
-    AppendDword(block, plan.mapPage << 8 | plan.firstMap);
-    AppendDword(block, plan.mapPage << 8 | static_cast<std::uint32_t>(plan.firstMap + 1));
+    AppendDword(block, plan.MapPointer(0));
+    AppendDword(block, plan.MapPointer(1));
     for (const std::uint32_t keys : figures.differentKeys) {
         AppendDword(block, 0);
         AppendDword(block, keys);
@@ -87,7 +87,7 @@ void AppendColumn(const TablePlan& plan, const PlannedColumn& column, std::strin
     AppendWord(block, column.bytes);
 }
 
-void AppendRealIndex(const TablePlan& plan, const PlannedIndex& index, std::uint32_t mapRow,
+void AppendRealIndex(const TablePlan& plan, const PlannedIndex& index, std::size_t map,
                      std::string& block) {
     AppendDword(block, IndexMagic);
     for (std::size_t i = 0; i < 10; ++i) {
@@ -95,7 +95,7 @@ void AppendRealIndex(const TablePlan& plan, const PlannedIndex& index, std::uint
         AppendWord(block, used ? plan.columns[index.columns[i]].number : std::uint16_t{0xffff});
         block += used && index.descending[i] ? '\0' : '\1';
     }
-    AppendDword(block, plan.mapPage << 8 | mapRow);
+    AppendDword(block, plan.MapPointer(map));
     AppendDword(block, index.root);
     AppendDword(block, 0);
     block += static_cast<char>(index.flags);
@@ -115,9 +115,9 @@ void AppendLogicalIndex(std::uint32_t number, std::uint32_t real, std::uint8_t t
     AppendDword(block, 0);
 }
 
-void AppendIndexes(const TablePlan& plan, std::uint32_t firstMapRow, std::string& block) {
+void AppendIndexes(const TablePlan& plan, std::size_t firstMap, std::string& block) {
     for (std::size_t i = 0; i < plan.indexes.size(); ++i)
-        AppendRealIndex(plan, plan.indexes[i], firstMapRow + static_cast<std::uint32_t>(i), block);
+        AppendRealIndex(plan, plan.indexes[i], firstMap + i, block);
     const auto order = ByName(plan.indexes, [](const PlannedIndex& index) { return index.name; });
     for (const std::size_t real : order)
         AppendLogicalIndex(static_cast<std::uint32_t>(real), static_cast<std::uint32_t>(real),
@@ -157,13 +157,13 @@ void WriteDefinition(FileBuilder& file, const TablePlan& plan, const DefinitionF
         AppendColumn(plan, plan.columns[at], block);
     for (const std::size_t at : order)
         AppendName(plan.columns[at].column.name, block);
-    std::uint32_t map = plan.firstMap + 2U;
+    std::size_t map = 2;
     std::string longColumns;
     for (const PlannedColumn& column : plan.columns) {
         if (!column.IsLong()) continue;
         AppendWord(longColumns, column.number);
-        AppendDword(longColumns, plan.mapPage << 8 | map);
-        AppendDword(longColumns, plan.mapPage << 8 | (map + 1));
+        AppendDword(longColumns, plan.MapPointer(map));
+        AppendDword(longColumns, plan.MapPointer(map + 1));
         map += 2;
     }
     AppendIndexes(plan, map, block);

@@ -125,7 +125,9 @@ bool IsText(ColumnType type) {
 void AppendIndexKey(const ValueView& value, const Column& column, bool descending,
                     std::string& key) {
     const std::size_t start = key.size();
-    if (std::holds_alternative<std::monostate>(value)) {
+    if (std::holds_alternative<std::monostate>(value) && column.type == ColumnType::Boolean) {
+        key += "\x7f\xff";  // a truth value is never null: not given, it counts as false
+    } else if (std::holds_alternative<std::monostate>(value)) {
         key += '\0';
     } else {
         key += '\x7f';

@@ -12,7 +12,7 @@ std::string WriteFile(const std::vector<TableToWrite>& tables, double made) {
     std::vector<CatalogueRow> catalogue;
     for (const TableToWrite& table : tables) {
         const TablePlan plan = PlanTable(file, table.definition);
-        WriteMapPage(file, plan.mapPage, {WriteTable(file, plan, table.rows)});
+        WriteMapPages(file, plan.mapPages, {WriteTable(file, plan, table.rows)});
         catalogue.push_back({plan.name, plan.definitionPage, PropertyBlock(plan)});
     }
     WriteSystemTables(file, catalogue, made);

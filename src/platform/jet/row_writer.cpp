@@ -5,7 +5,6 @@
 #include "platform/jet/value_text.h"
 #include "platform/text/code_page.h"
 #include "platform/text/runtime_error.h"
-#include "platform/text/text.h"
 
 namespace tendo::jet {
 namespace {
@@ -15,6 +14,7 @@ constexpr std::size_t LongestInline = 64;
 constexpr std::size_t LongestSingle = 4076;
 constexpr std::size_t LongestPiece = 4072;
 constexpr int RecordTooLarge = 3047;
+constexpr std::string_view CompressedMark = "\xff\xfe";
 
 template <class Number>
 std::string Raw(Number value) {
@@ -55,22 +55,38 @@ std::string FixedBytes(const ValueView& value, const Column& column) {
     WrongType(column);
 }
 
+/// A plain text that begins with U+FEFF has the bytes of the mark of compressed text. It is stored
+/// as compressed, switched to plain mode at once; if a character in it would switch back (its low
+/// byte is zero), the invisible U+FEFF is left out.
+std::string Unmistaken(std::string utf16) {
+    if (!utf16.starts_with(CompressedMark)) return utf16;
+    for (std::size_t at = 0; at < utf16.size(); at += 2)
+        if (utf16[at] == '\0') return Unmistaken(utf16.substr(CompressedMark.size()));
+    return std::string(CompressedMark) + '\0' + utf16;
+}
+
+/// The bytes of a Text or Binary value; RuntimeError 3163 when there are more than the column
+/// takes.
+std::string Fitting(std::string bytes, const PlannedColumn& planned) {
+    if (bytes.size() > planned.bytes)
+        throw RuntimeError(error_number::FieldTooSmall,
+                           "the value is too long for the column " + planned.column.name);
+    return planned.column.type == ColumnType::Text ? Unmistaken(std::move(bytes)) : bytes;
+}
+
 std::string VariableBytes(const ValueView& value, const PlannedColumn& planned,
                           LongValueWriter* longValues) {
     const auto* text = std::get_if<std::string_view>(&value);
     if (!text) WrongType(planned.column);
     switch (planned.column.type) {
         case ColumnType::Text:
-            if (CharacterCount(*text) > static_cast<std::size_t>(planned.column.size))
-                throw RuntimeError(error_number::FieldTooSmall,
-                                   "the text is too long for the column " + planned.column.name);
-            return ToUtf16(*text);
+            return Fitting(ToUtf16(*text), planned);
         case ColumnType::Memo:
-            return longValues->Write(ToUtf16(*text));
+            return longValues->Write(Unmistaken(ToUtf16(*text)));
         case ColumnType::Ole:
             return longValues->Write(*text);
         case ColumnType::Binary:
-            return std::string(*text);
+            return Fitting(std::string(*text), planned);
         default:
             WrongType(planned.column);
     }

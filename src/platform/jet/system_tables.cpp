@@ -56,7 +56,7 @@ TablePlan Plan(const char* name, std::span<const ColumnSpec> columns,
     plan.system = true;
     plan.definitionPage = page;
     plan.firstDataPage = dataPage;
-    plan.mapPage = MapPage;
+    plan.mapPages = {MapPage};
     plan.firstMap = firstMap;
     std::uint16_t offset = 0, variable = 0;
     for (std::size_t i = 0; i < columns.size(); ++i) {
@@ -232,10 +232,10 @@ void WriteSystemTables(FileBuilder& file, const std::vector<CatalogueRow>& table
                                       {"szObject", {4}, 0x82, 0, 12},
                                       {"szReferencedObject", {6}, 0x82, 0, 13}},
                                      5, 0, 26);
-    WriteMapPage(file, MapPage,
-                 {WriteTable(file, objects, ObjectRows(tables, made)),
-                  WriteTable(file, aces, AceRows(tables)), WriteTable(file, queries, {}),
-                  WriteTable(file, relations, {})});
+    WriteMapPages(file, {MapPage},
+                  {WriteTable(file, objects, ObjectRows(tables, made)),
+                   WriteTable(file, aces, AceRows(tables)), WriteTable(file, queries, {}),
+                   WriteTable(file, relations, {})});
 }
 
 void WriteHeaderPages(FileBuilder& file) {

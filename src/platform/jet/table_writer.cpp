@@ -13,6 +13,11 @@ namespace {
 
 constexpr std::size_t MaximumColumns = 255;
 constexpr std::size_t MaximumIndexes = 32;
+constexpr std::uint8_t RequiredFlag = 8;
+constexpr std::size_t MaximumKeyColumns = 10;
+constexpr std::size_t MapsPerPage = 57;   // of 69 bytes each
+constexpr std::size_t LongestKey = 1700;  // a node must hold two entries at least
+constexpr int NullInKey = 3058, RecordTooLarge = 3047;
 
 std::size_t ColumnPlace(const TableDefinition& definition, const std::string& name) {
     for (std::size_t i = 0; i < definition.columns.size(); ++i)
@@ -22,6 +27,9 @@ std::size_t ColumnPlace(const TableDefinition& definition, const std::string& na
 }
 
 PlannedIndex PlanIndex(const TableDefinition& definition, const Index& index) {
+    if (index.columns.empty() || index.columns.size() > MaximumKeyColumns)
+        throw RuntimeError(error_number::UnrecognizedFormat,
+                           "the index " + index.name + " has too many columns or none");
     PlannedIndex planned;
     planned.name = index.name;
     for (std::size_t i = 0; i < index.columns.size(); ++i) {
@@ -30,9 +38,17 @@ PlannedIndex PlanIndex(const TableDefinition& definition, const Index& index) {
     }
     planned.flags = static_cast<std::uint8_t>(0x80 | (index.unique || index.primary ? 1 : 0) |
                                               (index.ignoreNulls ? 2 : 0) |
-                                              (index.required || index.primary ? 8 : 0));
+                                              (index.required || index.primary ? RequiredFlag : 0));
     planned.type = index.primary ? 1 : 0;
     return planned;
+}
+
+/// The data pages and those with room, two for each long column, one for each index.
+std::size_t MapCount(const TablePlan& plan) {
+    const auto longColumns =
+        std::count_if(plan.columns.begin(), plan.columns.end(),
+                      [](const PlannedColumn& column) { return column.IsLong(); });
+    return 2 + 2 * static_cast<std::size_t>(longColumns) + plan.indexes.size();
 }
 
 void PlanColumns(const TableDefinition& definition, TablePlan& plan) {
@@ -116,12 +132,19 @@ class RowWriter {
         bool allNull = true;
         for (std::size_t i = 0; i < index.columns.size(); ++i) {
             const ValueView& value = values[index.columns[i]];
-            const bool isNull = std::holds_alternative<std::monostate>(value);
+            const bool isNull = std::holds_alternative<std::monostate>(value) &&
+                                plan_.columns[index.columns[i]].column.type != ColumnType::Boolean;
             allNull = allNull && isNull;
             entry.holdsNull = entry.holdsNull || isNull;
             AppendIndexKey(value, plan_.columns[index.columns[i]].column, index.descending[i],
                            entry.key);
         }
+        if (entry.holdsNull && (index.flags & RequiredFlag))
+            throw RuntimeError(
+                NullInKey, "the index " + index.name + " of " + plan_.name + " can't hold a null");
+        if (entry.key.size() > LongestKey)
+            throw RuntimeError(RecordTooLarge, "the key of a record in the index " + index.name +
+                                                   " of " + plan_.name + " is too long");
         if (!(allNull && (index.flags & 2))) entries_[at].push_back(std::move(entry));
     }
 
@@ -167,7 +190,8 @@ TablePlan PlanTable(FileBuilder& file, const TableDefinition& definition) {
     for (const Index& index : definition.indexes)
         plan.indexes.push_back(PlanIndex(definition, index));
     plan.definitionPage = file.AddPage();
-    plan.mapPage = file.AddPage();
+    for (std::size_t i = 0; i < MapCount(plan); i += MapsPerPage)
+        plan.mapPages.push_back(file.AddPage());
     for (PlannedIndex& index : plan.indexes)
         index.root = file.AddPage();
     return plan;
@@ -179,18 +203,20 @@ TableMaps WriteTable(FileBuilder& file, const TablePlan& plan, const RowSource& 
     return writer.Finish();
 }
 
-void WriteMapPage(FileBuilder& file, std::uint32_t page, const std::vector<TableMaps>& tables) {
-    DataPage maps(0);
-    for (const TableMaps& table : tables) {
-        for (const auto& pages : table) {
-            const std::string row = UsageMapRow(file, pages);
-            if (!maps.HasRoom(row.size()))
-                throw RuntimeError(error_number::UnrecognizedFormat,
-                                   "a table has too many memo columns and indexes");
-            maps.Add(row);
-        }
-    }
-    file.Put(page, 0, maps.Bytes());
+std::uint32_t TablePlan::MapPointer(std::size_t map) const {
+    const std::size_t place = firstMap + map;
+    return mapPages.at(place / MapsPerPage) << 8 | static_cast<std::uint32_t>(place % MapsPerPage);
+}
+
+void WriteMapPages(FileBuilder& file, const std::vector<std::uint32_t>& pages,
+                   const std::vector<TableMaps>& tables) {
+    std::vector<DataPage> written(pages.size(), DataPage(0));
+    std::size_t place = 0;
+    for (const TableMaps& table : tables)
+        for (const auto& map : table)
+            written.at(place++ / MapsPerPage).Add(UsageMapRow(file, map));
+    for (std::size_t i = 0; i < pages.size(); ++i)
+        file.Put(pages[i], 0, written[i].Bytes());
 }
 
 }  // namespace tendo::jet

@@ -27,8 +27,11 @@ struct TablePlan {
     bool system = false;
     std::uint32_t definitionPage = 0;
     std::uint32_t firstDataPage = 0;  // made already; 0: made when the first row comes
-    std::uint32_t mapPage = 0;
-    std::uint8_t firstMap = 0;  // row of its first map on the map page
+    std::vector<std::uint32_t> mapPages;
+    std::size_t firstMap = 0;  // place of its first map on the map pages
+
+    /// The row pointer of one of the table's maps.
+    std::uint32_t MapPointer(std::size_t map) const;
 };
 
 /// The plan of a user table, its pages allocated.
@@ -42,7 +45,8 @@ using TableMaps = std::vector<std::vector<std::uint32_t>>;
 /// that tables may share. RuntimeError 3022 for a duplicate in a unique index.
 TableMaps WriteTable(FileBuilder& file, const TablePlan& plan, const RowSource& rows);
 
-/// Writes a page of maps.
-void WriteMapPage(FileBuilder& file, std::uint32_t page, const std::vector<TableMaps>& tables);
+/// Writes the maps of the tables, one after the other, on these pages.
+void WriteMapPages(FileBuilder& file, const std::vector<std::uint32_t>& pages,
+                   const std::vector<TableMaps>& tables);
 
 }  // namespace tendo::jet
