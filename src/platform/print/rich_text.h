@@ -1,34 +1,10 @@
 #pragma once
 
-#include <string>
 #include <string_view>
-#include <vector>
 
-#include "platform/print/document.h"
+#include "platform/print/rich_model.h"
 
 namespace tendo {
-
-/// Text in one format.
-struct RichRun {
-    std::string text;  // UTF-8; '\n' is a line break within the paragraph, '\t' a tab
-    FontSpec font;
-    Rgb color = 0;
-};
-
-enum class RichAlign { Inherit, Left, Center, Right };
-
-/// Indents and spaces in twips; `firstIndent` counts from `leftIndent`.
-struct RichParagraph {
-    RichAlign align = RichAlign::Inherit;
-    int leftIndent = 0, rightIndent = 0, firstIndent = 0;
-    int spaceBefore = 0, spaceAfter = 0;
-    std::vector<int> tabs;
-    std::vector<RichRun> runs;
-};
-
-struct RichText {
-    std::vector<RichParagraph> paragraphs;
-};
 
 /// True when the text is to be read as rich text: a group that holds at least one backslash word.
 bool IsRichText(std::string_view text);

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/print/rich_text.h"
+#include "platform/print/rich_model.h"
 
 namespace tendo {
 

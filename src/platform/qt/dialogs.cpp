@@ -9,6 +9,9 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
+#include "platform/qt/icons.h"
+#include "platform/qt/theme.h"
+
 namespace tendo {
 namespace {
 
@@ -45,18 +48,20 @@ QMessageBox::StandardButtons QtButtons(Buttons buttons) {
     }
 }
 
-QMessageBox::Icon QtIcon(MessageIcon icon) {
+/// The sign of a message in the colours of the program; null for none.
+QPixmap SignOf(MessageIcon icon, double ratio) {
+    const ThemeColors& colors = Theme();
     switch (icon) {
         case MessageIcon::Information:
-            return QMessageBox::Information;
+            return LinePixmap("information", colors.accent, 36, ratio);
         case MessageIcon::Question:
-            return QMessageBox::Question;
+            return LinePixmap("help", colors.accent, 36, ratio);
         case MessageIcon::Warning:
-            return QMessageBox::Warning;
+            return LinePixmap("warning", colors.heating, 36, ratio);
         case MessageIcon::Critical:
-            return QMessageBox::Critical;
+            return LinePixmap("critical", colors.negative, 36, ratio);
         default:
-            return QMessageBox::NoIcon;
+            return {};
     }
 }
 
@@ -84,9 +89,10 @@ class QtDialogs : public DialogService {
   public:
     Answer Message(const MessageDialog& dialog) override {
         const PlainPointer pointer;
-        QMessageBox box(QtIcon(dialog.icon), Q(dialog.title), Q(dialog.text),
+        QMessageBox box(QMessageBox::NoIcon, Q(dialog.title), Q(dialog.text),
                         QtButtons(dialog.buttons), QApplication::activeWindow());
         box.setTextFormat(Qt::PlainText);
+        box.setIconPixmap(SignOf(dialog.icon, box.devicePixelRatioF()));
         switch (box.exec()) {
             case QMessageBox::Ok:
                 return Answer::Ok;

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "platform/files/ini_file_handler.h"
+#include "platform/files/profile.h"
 #include "platform/qt/fields.h"
 
 namespace tendo {
@@ -166,7 +167,8 @@ void Form::CommitFocusedField() {
 
 void Form::StoreAllFields() {
     CommitFocusedField();
-    for (Form* form : Loaded()) form->StoreFields();
+    for (Form* form : Loaded())
+        form->StoreFields();
 }
 
 void Form::closeEvent(QCloseEvent* event) {
@@ -204,18 +206,17 @@ void Form::RestorePlacement(QWidget* window, const QString& section) {
 }
 
 void Form::StorePlacement(const QWidget* window, const QString& section) {
-    const std::string name = section.toStdString();
     const bool normal = !window->isMinimized() && !window->isMaximized();
     const int state = window->isMinimized() ? 1 : window->isMaximized() ? 2 : 0;
+    std::vector<std::pair<std::string, std::string>> values;
     if (normal) {
-        const std::pair<const char*, int> sizes[] = {{"Left", window->x()},
-                                                     {"Top", window->y()},
-                                                     {"Width", window->width()},
-                                                     {"Height", window->height()}};
-        for (const auto& [key, value] : sizes)
-            Ini().MyWriteAppProfileString(name, key, std::to_string(value));
+        values = {{"Left", std::to_string(window->x())},
+                  {"Top", std::to_string(window->y())},
+                  {"Width", std::to_string(window->width())},
+                  {"Height", std::to_string(window->height())}};
     }
-    Ini().MyWriteAppProfileString(name, "WindowState", std::to_string(state));
+    values.emplace_back("WindowState", std::to_string(state));
+    WriteProfileSection(Ini().AppProfileFileName, section.toStdString(), values);
 }
 
 Hourglass::Hourglass() {

@@ -1,12 +1,12 @@
 #pragma once
 
+#include <QMdiSubWindow>
 #include <QPointer>
 #include <QString>
 #include <QWidget>
 #include <functional>
 
 class QMdiArea;
-class QMdiSubWindow;
 
 namespace tendo {
 
@@ -63,8 +63,9 @@ class Form : public QWidget {
     /// does first.
     static void CommitFocusedField();
 
-    /// Commits the field in focus and lets every loaded form put what it holds in its fields into the records: what
-    /// a save, a preview or a print does first, so that paper and file tell what the screens show.
+    /// Commits the field in focus and lets every loaded form put what it holds in its fields into
+    /// the records: what a save, a preview or a print does first, so that paper and file tell what
+    /// the screens show.
     static void StoreAllFields();
 
     /// Reads and stores the place of any window under its section.

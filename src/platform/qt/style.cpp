@@ -114,6 +114,7 @@ int TendoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
 int TendoStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                           QStyleHintReturn* data) const {
     if (hint == SH_TitleBar_NoBorder) return 1;
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, data);
 }
 

@@ -3,7 +3,6 @@
 #include <QColor>
 #include <QString>
 
-class QApplication;
 class QFont;
 class QWidget;
 
@@ -30,10 +29,8 @@ struct ThemeColors {
 /// The set in use.
 const ThemeColors& Theme();
 
-/// Chooses the set (environment TENDO_THEME "light" or "dark" comes first, then the desktop's own
-/// palette) and gives the application its style, palette, style sheet and font.
-void ApplyTheme(QApplication& application);
-void ApplyTheme(QApplication& application, bool dark);
+/// Puts a set in use; `ApplyTheme` does the rest.
+void SetThemeColors(const ThemeColors& colors);
 
 /// Fonts by use: body 10, secondary 9, headings 9 semibold, the one total of a screen 15 points,
 /// all relative to the desktop's font size.

@@ -49,8 +49,8 @@ std::string NumberJson(double value, ColumnType type) {
     if (type != ColumnType::Date) return Shortest(value, type == ColumnType::Single);
     const DateTime date = DateOfSerial(value);
     std::array<char, 40> text{};
-    std::snprintf(text.data(), text.size(), "%04d-%02d-%02dT%02d:%02d:%02d", date.year, date.month, date.day,
-                  date.hour, date.minute, date.second);
+    std::snprintf(text.data(), text.size(), "%04d-%02d-%02dT%02d:%02d:%02d", date.year, date.month,
+                  date.day, date.hour, date.minute, date.second);
     return TextJson(text.data());
 }
 

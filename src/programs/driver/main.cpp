@@ -3,7 +3,7 @@
 #include <fstream>
 #include <iostream>
 
-#include "platform/qt/theme.h"
+#include "platform/qt/apply_theme.h"
 #include "programs/driver/session.h"
 
 namespace {

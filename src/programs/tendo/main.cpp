@@ -2,7 +2,7 @@
 #include <QCommandLineParser>
 
 #include "app/screens/application.h"
-#include "platform/qt/theme.h"
+#include "platform/qt/apply_theme.h"
 
 namespace {
 

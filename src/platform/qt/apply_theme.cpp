@@ -1,0 +1,154 @@
+#include "platform/qt/apply_theme.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QPalette>
+#include <map>
+
+#include "platform/qt/style.h"
+#include "platform/qt/theme.h"
+
+// Must stand outside any namespace.
+static void InitResources() {
+    Q_INIT_RESOURCE(platform_qt);
+}
+
+namespace tendo {
+namespace {
+
+ThemeColors LightColors() {
+    return {.window = "#f6f8fa",
+            .workspace = "#e9edf1",
+            .field = "#ffffff",
+            .figure = "#eef2f5",
+            .line = "#d3dae1",
+            .text = "#1c2530",
+            .secondary = "#5c6a79",
+            .accent = "#0b66c3",
+            .accentText = "#ffffff",
+            .selection = "#d6e8fa",
+            .fresh = "#fff2c4",
+            .negative = "#b9322a",
+            .cooling = "#1f78d8",
+            .heating = "#d65f28",
+            .water = "#128a83",
+            .dark = false};
+}
+
+ThemeColors DarkColors() {
+    return {.window = "#1b2128",
+            .workspace = "#12161b",
+            .field = "#222a33",
+            .figure = "#1d242c",
+            .line = "#36424f",
+            .text = "#e4eaf0",
+            .secondary = "#98a6b5",
+            .accent = "#62aef7",
+            .accentText = "#10161c",
+            .selection = "#1f3f5f",
+            .fresh = "#4a4018",
+            .negative = "#ff7b72",
+            .cooling = "#5aa7f2",
+            .heating = "#ef8a55",
+            .water = "#3fbab2",
+            .dark = true};
+}
+
+QPalette PaletteOf(const ThemeColors& colors) {
+    QPalette palette;
+    const std::map<QPalette::ColorRole, QColor> roles = {
+        {QPalette::Window, colors.window},
+        {QPalette::WindowText, colors.text},
+        {QPalette::Base, colors.field},
+        {QPalette::AlternateBase, colors.figure},
+        {QPalette::Text, colors.text},
+        {QPalette::Button, colors.field},
+        {QPalette::ButtonText, colors.text},
+        {QPalette::Highlight, colors.accent},
+        {QPalette::HighlightedText, colors.accentText},
+        {QPalette::ToolTipBase, colors.field},
+        {QPalette::ToolTipText, colors.text},
+        {QPalette::PlaceholderText, colors.secondary},
+        {QPalette::Link, colors.accent},
+        {QPalette::Light, colors.field},
+        {QPalette::Midlight, colors.figure},
+        {QPalette::Mid, colors.line},
+        {QPalette::Dark, colors.line},
+        {QPalette::Shadow, colors.workspace},
+    };
+    for (const auto& [role, color] : roles)
+        palette.setColor(role, color);
+    QColor faded = colors.secondary;
+    faded.setAlpha(140);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, faded);
+    return palette;
+}
+
+/// The sheet names colours by "@name"; they are put in here.
+QString SheetOf(const ThemeColors& colors) {
+    QFile file(":/tendo/theme.qss");
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    QString sheet = QString::fromUtf8(file.readAll());
+    sheet.replace("@checkIcon", colors.dark ? "check-dark" : "check-light");
+    QColor soft = colors.accent;
+    soft.setAlphaF(0.22F);
+    QColor hover = colors.accent;
+    hover.setAlphaF(0.10F);
+    QColor faded = colors.secondary;
+    faded.setAlphaF(0.6F);
+    const std::pair<const char*, QColor> names[] = {
+        {"@accentText", colors.accentText},
+        {"@accentSoft", soft},
+        {"@accentHover", hover},
+        {"@accent", colors.accent},
+        {"@window", colors.window},
+        {"@workspace", colors.workspace},
+        {"@field", colors.field},
+        {"@figure", colors.figure},
+        {"@line", colors.line},
+        {"@text", colors.text},
+        {"@secondary", colors.secondary},
+        {"@selection", colors.selection},
+        {"@fresh", colors.fresh},
+        {"@negative", colors.negative},
+        {"@cooling", colors.cooling},
+        {"@heating", colors.heating},
+        {"@water", colors.water},
+        {"@faded", faded},
+    };
+    for (const auto& [name, color] : names) {
+        sheet.replace(name, QString("rgba(%1,%2,%3,%4)")
+                                .arg(color.red())
+                                .arg(color.green())
+                                .arg(color.blue())
+                                .arg(color.alpha()));
+    }
+    sheet.replace("@small", QString("%1pt").arg(HeadingFont().pointSizeF()));
+    return sheet;
+}
+
+bool DesktopIsDark() {
+    const QByteArray wish = qgetenv("TENDO_THEME");
+    if (wish == "dark") return true;
+    if (wish == "light") return false;
+    return QApplication::palette().color(QPalette::Window).lightness() < 128;
+}
+
+}  // namespace
+
+void ApplyTheme(QApplication& application) {
+    ApplyTheme(application, DesktopIsDark());
+}
+
+void ApplyTheme(QApplication& application, bool dark) {
+    InitResources();
+    SetThemeColors(dark ? DarkColors() : LightColors());
+    application.setStyleSheet({});
+    application.setStyle(new TendoStyle);
+    application.setPalette(PaletteOf(Theme()));
+    application.setFont(BodyFont());
+    application.setStyleSheet(SheetOf(Theme()));
+}
+
+}  // namespace tendo
