@@ -36,6 +36,10 @@ frmSumModelData::~frmSumModelData() {
     table_.TextChanged = {};  // the entry lines are about to go
 }
 
+void frmSumModelData::StoreFields() {
+    if (table_.IsOpen()) table_.GetSystemTendos();
+}
+
 void frmSumModelData::FormUnload() {
     table_.Close();
 }

@@ -36,6 +36,7 @@ class frmSumModelData : public Form {
     QSize sizeHint() const override;
 
   protected:
+    void StoreFields() override;
     void FormUnload() override;
     void showEvent(QShowEvent* event) override;
 
