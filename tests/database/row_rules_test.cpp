@@ -258,6 +258,16 @@ TEST(RowRules, AnAppendedColumnIsNullInTheRowsThatAreThere) {
     EXPECT_EQ(book.Table("Categories").columns.size(), 3U);
 }
 
+TEST(RowRules, ATextColumnWithoutASizeHolds255Characters) {
+    Database database = Database::InMemory();
+    database.AppendTable(TableOf("T", {ColumnOf("A", ColumnType::Text)}));
+    database.AppendField("T", ColumnOf("B", ColumnType::Text));
+    EXPECT_EQ(database.Table("T").columns[0].size, 255);
+    EXPECT_EQ(database.Table("T").columns[1].size, 255);
+    EXPECT_EQ(ErrorOf([&] { database.AppendRows("T", {{std::string(256, 'x'), Null}}); }), 3163);
+    database.AppendRows("T", {{Null, std::string(255, 'x')}});
+}
+
 TEST(RowRules, TablesAreMadeOnceAndDeletedOnce) {
     Database book = PriceBook();
     EXPECT_EQ(book.TableNames(), (std::vector<std::string>{"Materials", "Categories"}));

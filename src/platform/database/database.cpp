@@ -16,6 +16,7 @@ constexpr int TableExists = 3010;
 constexpr int NoColumns = 3264;
 constexpr int ColumnExists = 3191;
 constexpr int MostColumns = 255;
+constexpr int UnsizedText = 255;  // the size that a text column gets when none is told
 
 std::string_view WithoutBrackets(std::string_view name) {
     if (name.size() > 2 && name.front() == '[' && name.find(']') == name.size() - 1)
@@ -29,6 +30,11 @@ bool IsAction(std::string_view source) {
          {"insert ", "update ", "delete ", "drop ", "create ", "alter ", "pragma ", "attach "})
         if (EqualsNoCase(source.substr(0, word.size()), word)) return true;
     return false;
+}
+
+jet::Column Sized(jet::Column column) {
+    if (column.type == jet::ColumnType::Text && column.size <= 0) column.size = UnsizedText;
+    return column;
 }
 
 void CheckColumns(const jet::TableDefinition& table) {
@@ -87,7 +93,10 @@ void Database::AppendTable(const jet::TableDefinition& table) {
     if (HasTable(table.name))
         throw RuntimeError(TableExists, "The table \"" + table.name + "\" exists already.");
     CheckColumns(table);
-    engine_->AddTable(table);
+    jet::TableDefinition sized = table;
+    for (jet::Column& column : sized.columns)
+        column = Sized(column);
+    engine_->AddTable(sized);
     engine_->MarkChanged();
 }
 
@@ -95,7 +104,7 @@ void Database::AppendField(std::string_view table, const jet::Column& column) {
     engine_->CheckWritable();
     StoredTable& stored = *engine_->Loaded(table, error_number::ItemNotFound);
     jet::TableDefinition widened = stored.definition;
-    widened.columns.push_back(column);
+    widened.columns.push_back(Sized(column));
     CheckColumns(widened);
     stored.insert.reset();
     engine_->Execute("ALTER TABLE t" + std::to_string(stored.number) + " ADD COLUMN c" +
