@@ -110,8 +110,8 @@ void BoundFields::Enter(TableField field, const QString& text) {
     for (const QChar key : text)
         if (KeyAllowed(field, key.unicode(), taken.toStdString())) taken += key;
     TextField* line = At(field);
+    line->setFocus();  // first, for leaving another field recalculates
     line->ShowText(taken);
-    line->setFocus();
     line->Commit();
 }
 
