@@ -4,6 +4,7 @@
 #include "app/screens/command_dispatch.h"
 #include "app/screens/frm_about.h"
 #include "app/screens/screen_table.h"
+#include "equipment/screens/frm_model_selection.h"
 #include "materials/material_catalogue.h"
 #include "platform/database/database_hooks.h"
 #include "platform/qt/dialogs.h"
@@ -34,7 +35,12 @@ void RefillPriceScreen() {
 void WirePricing() {
     PricingScreens().ScreenExists = ScreenExists;
     PricingScreens().ShowScreen = ShowScreen;
+    PricingScreens().SelectModel = [](ModelSide side) {
+        ShowModelSelection(side == ModelSide::Cooling ? SelectionMode::Cooling
+                                                      : SelectionMode::Heating);
+    };
     ModelDatabasesChanged() = RefillPriceScreen;
+    AfterModelSelection() = {RefillPriceScreen};
 }
 
 }  // namespace

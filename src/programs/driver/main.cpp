@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QTemporaryFile>
 #include <fstream>
 #include <iostream>
 
@@ -15,12 +16,31 @@ std::vector<std::string> LinesOf(std::istream& input) {
     return lines;
 }
 
+/// The screen of a run without a display, as wide as a desktop of today; TENDO_SCREEN_SCALE makes it a fine one.
+class DesktopFile {
+  public:
+    DesktopFile() {
+        file_.open();
+        const QByteArray scale = qEnvironmentVariable("TENDO_SCREEN_SCALE", "1").toLatin1();
+        file_.write(R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false,
+                       "screens": [{"name": "desktop", "x": 0, "y": 0, "width": 1440, "height": 960,
+                       "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": )" +
+                    scale + "}]}");
+        file_.close();
+    }
+    QByteArray Name() const { return file_.fileName().toLocal8Bit(); }
+
+  private:
+    QTemporaryFile file_;
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsSet("DISPLAY") &&
-        !qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const DesktopFile desktop;
+    if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
+        qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen") == "offscreen")
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + desktop.Name());
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     tendo::ApplyTheme(application);

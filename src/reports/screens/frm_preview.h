@@ -23,6 +23,8 @@ class FrmPreview : public Form {
     /// Runs all marked reports and shows the first page.
     void ShowAllReports();
 
+    QSize sizeHint() const override { return {980, 1080}; }
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
 
