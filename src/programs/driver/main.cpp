@@ -6,6 +6,7 @@
 
 #include "platform/qt/apply_theme.h"
 #include "programs/driver/session.h"
+#include "reports/screens/frm_owner.h"
 
 namespace {
 
@@ -16,7 +17,8 @@ std::vector<std::string> LinesOf(std::istream& input) {
     return lines;
 }
 
-/// The screen of a run without a display, as wide as a desktop of today; TENDO_SCREEN_SCALE makes it a fine one.
+/// The screen of a run without a display, as wide as a desktop of today; TENDO_SCREEN_SCALE makes
+/// it a fine one.
 class DesktopFile {
   public:
     DesktopFile() {
@@ -61,6 +63,7 @@ int main(int argc, char** argv) {
         return 2;
     }
 
+    tendo::NeverAskForOwner();
     tendo::driver::Session session({.home = parser.value("home").toStdString(),
                                     .winIni = parser.value("win-ini").toStdString(),
                                     .today = parser.value("today").toStdString(),

@@ -15,6 +15,7 @@
 #include "platform/qt/theme.h"
 #include "reports/generate_reports.h"
 #include "reports/package.h"
+#include "reports/screens/frm_owner.h"
 #include "reports/screens/page_view.h"
 
 namespace tendo {
@@ -208,6 +209,7 @@ void FrmPreview::keyPressEvent(QKeyEvent* event) {
 }
 
 void ShowPreview() {
+    AskForOwnerOnce();
     auto* preview = static_cast<FrmPreview*>(Form::Find("frmPreview"));
     if (!preview) preview = new FrmPreview;
     preview->ShowForm();
