@@ -4,40 +4,8 @@
 #include <cstdint>
 #include <cstring>
 
-#include "platform/text/code_page.h"
-
 namespace tendo::jet {
 namespace {
-
-void AppendLatin(unsigned char byte, std::string& text) {
-    if (byte < 0x80) {
-        text += static_cast<char>(byte);
-    } else {
-        text += static_cast<char>(0xc0 | byte >> 6);
-        text += static_cast<char>(0x80 | (byte & 0x3f));
-    }
-}
-
-/// Compressed text: runs of single bytes and of plain pairs, parted by zero bytes.
-void AppendCompressed(std::string_view bytes, std::string& text) {
-    bool compressed = true;
-    for (std::size_t i = 0; i < bytes.size();) {
-        if (bytes[i] == 0) {
-            compressed = !compressed;
-            ++i;
-        } else if (compressed) {
-            AppendLatin(static_cast<unsigned char>(bytes[i++]), text);
-        } else {
-            std::size_t end = i;
-            while (end + 1 < bytes.size() && bytes[end] != 0)
-                end += 2;
-            if (end == i) return;  // one byte left
-            text += FromUtf16(bytes.substr(i, end - i));
-            i = end;
-            if (i + 1 >= bytes.size()) return;
-        }
-    }
-}
 
 constexpr char hexDigits[] = "0123456789ABCDEF";
 /// Order in which a GUID's bytes are printed.
@@ -51,18 +19,6 @@ int HexValue(char digit) {
 }
 
 }  // namespace
-
-void AppendJetText(std::string_view bytes, std::string& text) {
-    if (bytes.size() >= 2 && bytes[0] == '\xff' && bytes[1] == '\xfe')
-        return AppendCompressed(bytes.substr(2), text);
-    bool plain = bytes.size() % 2 == 0;
-    for (std::size_t i = 0; plain && i < bytes.size(); i += 2) {
-        plain = bytes[i + 1] == 0 && static_cast<unsigned char>(bytes[i]) < 0x80;
-        text += bytes[i];
-    }
-    if (plain) return;
-    text = FromUtf16(bytes);
-}
 
 std::string GuidText(std::string_view bytes) {
     std::string text = "{";

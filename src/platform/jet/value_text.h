@@ -5,8 +5,6 @@
 
 namespace tendo::jet {
 
-/// Appends a Jet 4 text, plain UTF-16 or compressed, as UTF-8.
-void AppendJetText(std::string_view bytes, std::string& text);
 /// "{8-4-4-4-12}" in capitals of 16 bytes, and back; back gives false for a text that is none.
 std::string GuidText(std::string_view bytes);
 bool GuidBytes(std::string_view text, std::string& bytes);
