@@ -166,8 +166,4 @@ PriceTable* OpenPriceTable() {
     return screen ? &screen->Table() : nullptr;
 }
 
-void RefillSumModelData() {
-    if (frmSumModelData* screen = LoadedScreen()) screen->Refill();
-}
-
 }  // namespace tendo

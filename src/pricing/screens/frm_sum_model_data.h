@@ -90,7 +90,4 @@ void ShowSumModelData();
 /// refill it after their totals changed.
 PriceTable* OpenPriceTable();
 
-/// Records to screen after another screen changed them; nothing when the screen is closed.
-void RefillSumModelData();
-
 }  // namespace tendo
