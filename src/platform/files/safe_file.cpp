@@ -154,16 +154,18 @@ std::string ReadWholeFile(std::string_view path, std::uint64_t limit) {
     if (!S_ISREG(info.st_mode)) {
         ThrowFileError("read", path, error_number::PermissionDenied, "it is not a plain file");
     }
-    std::string bytes;
+    if (static_cast<std::uint64_t>(info.st_size) > limit) {
+        ThrowFileError("read", path, error_number::OutOfMemory, "the file is too large");
+    }
+    // One byte more than the file tells of shows whether it grew; the buffer is not made twice
+    // then.
+    std::string bytes(static_cast<std::size_t>(info.st_size) + 1, '\0');
     std::size_t size = 0;
-    for (std::uint64_t room = static_cast<std::uint64_t>(info.st_size) + 1;; room = PieceSize) {
-        if (size > limit || static_cast<std::uint64_t>(info.st_size) > limit) {
-            ThrowFileError("read", path, error_number::OutOfMemory, "the file is too large");
-        }
-        bytes.resize(size + room);
-        const std::size_t count = file.Read(bytes.data() + size, bytes.size() - size);
-        if (count == 0) break;
+    while (const std::size_t count = file.Read(bytes.data() + size, bytes.size() - size)) {
         size += count;
+        if (size > limit)
+            ThrowFileError("read", path, error_number::OutOfMemory, "the file is too large");
+        if (size == bytes.size()) bytes.resize(size + PieceSize);
     }
     bytes.resize(size);
     return bytes;

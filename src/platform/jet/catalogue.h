@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/jet/jet_reader.h"
+#include "platform/jet/not_kept.h"
 #include "platform/jet/table_definition.h"
 
 namespace tendo::jet {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "platform/jet/table_writer.h"
+#include "platform/jet/table_plan.h"
 #include "platform/text/code_page.h"
 #include "platform/text/text.h"
 

@@ -8,18 +8,9 @@
 #include <vector>
 
 #include "platform/jet/jet_types.h"
+#include "platform/jet/not_kept.h"
 
 namespace tendo::jet {
-
-/// What can't be kept when this program writes the file back.
-struct NotKept {
-    bool password = false;
-    bool relations = false;
-    bool queries = false;
-    bool otherObjects = false;  // forms, reports, modules, macros, linked tables
-    bool linkedTables = false;
-    bool any() const { return password || relations || queries || otherObjects || linkedTables; }
-};
 
 /// A reader of one Jet 3 or Jet 4 file held in memory. Every length and page number is checked,
 /// every walk has a bound; damage throws RuntimeError 3343 (not a database, or the file as a whole)

@@ -1,17 +1,13 @@
 #pragma once
 
-#include <functional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/jet/jet_types.h"
+#include "platform/jet/row_source.h"
 
 namespace tendo::jet {
-
-/// Gives the rows of a table one by one; calls the function with one value per column.
-using RowSource = std::function<void(const std::function<void(std::span<const ValueView>)>&)>;
 
 struct TableToWrite {
     TableDefinition definition;
