@@ -79,6 +79,12 @@ void frmSumModelData::ShowSurroundings() {
         button->setEnabled(exists && exists(screen));
 }
 
+void frmSumModelData::ShowAfterEdit() {
+    const QString before = taxSum_->text();
+    ShowSurroundings();
+    if (taxSum_->text() != before) taxSum_->MarkFresh();
+}
+
 void frmSumModelData::Refill() {
     table_.FieldChanged = true;
     table_.SetSystemTendos();

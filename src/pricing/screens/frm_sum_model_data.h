@@ -56,6 +56,7 @@ class frmSumModelData : public Form {
     void PassFocusOn();
 
     void ShowSurroundings();
+    void ShowAfterEdit();
     void WantHelp(TableField field);
     void WantColumnHelp(FieldKind column);
     void GoToSystem(int system);

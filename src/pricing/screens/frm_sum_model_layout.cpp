@@ -17,7 +17,7 @@
 namespace tendo {
 namespace {
 
-constexpr int fieldPadding = 9;   // between a field's edge and its text
+constexpr int fieldPadding = 9;    // between a field's edge and its text
 constexpr int headingMargin = 13;  // puts a heading above the right edge of its figures
 constexpr int labelColumn = 0;
 constexpr const char* widestMoney = "$9,999,999.99";
@@ -169,7 +169,7 @@ frmSumModelData::frmSumModelData()
     table_.ShowMessage = [](const std::string& title, const std::string& text) {
         tendo::ShowMessage(title, text, MessageIcon::Warning);
     };
-    connect(&fields_, &BoundFields::Recalculated, this, &frmSumModelData::ShowSurroundings);
+    connect(&fields_, &BoundFields::Recalculated, this, &frmSumModelData::ShowAfterEdit);
     connect(&fields_, &BoundFields::HelpWanted, this,
             [this](int field) { WantHelp(static_cast<TableField>(field)); });
     table_.Open();
@@ -281,6 +281,7 @@ void frmSumModelData::AddEarning(QVBoxLayout* column, QLabel* label, QWidget* va
                                  QWidget* parent) {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(12);
     row->addWidget(label, 1);
     row->addWidget(value);
     column->addLayout(row);
