@@ -20,15 +20,6 @@ constexpr unsigned char headerMask[HeaderMaskSize] = {
     0x60, 0x26, 0x5f, 0x95, 0xf8, 0xd0, 0x89, 0x24, 0x85, 0x67, 0xc6, 0x1f, 0x27, 0x44, 0xd2, 0xee,
     0xcf, 0x65, 0xed, 0xff, 0x07, 0xc7, 0x46, 0xa1, 0x78, 0x16, 0x0c, 0xed, 0xe9, 0x2d, 0x62, 0xd4};
 
-template <class Number>
-Number Read(std::string_view bytes, std::size_t at) {
-    if (at > bytes.size() || bytes.size() - at < sizeof(Number))
-        Damaged("a number lies outside its page");
-    Number value = 0;
-    std::memcpy(&value, bytes.data() + at, sizeof value);
-    return value;
-}
-
 }  // namespace
 
 Layout LayoutOf(int generation) {
@@ -46,19 +37,6 @@ Layout LayoutOf(int generation) {
             .column = 18,
             .realIndex = 39,
             .logicalIndex = 20};
-}
-
-std::uint8_t Byte(std::string_view bytes, std::size_t at) {
-    return Read<std::uint8_t>(bytes, at);
-}
-std::uint16_t Word(std::string_view bytes, std::size_t at) {
-    return Read<std::uint16_t>(bytes, at);
-}
-std::uint32_t Dword(std::string_view bytes, std::size_t at) {
-    return Read<std::uint32_t>(bytes, at);
-}
-std::uint64_t Qword(std::string_view bytes, std::size_t at) {
-    return Read<std::uint64_t>(bytes, at);
 }
 
 std::string_view Part(std::string_view bytes, std::size_t at, std::size_t size) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -24,16 +25,36 @@ struct Layout {
 };
 Layout LayoutOf(int generation);
 
-/// Little-endian numbers at a place; throws RuntimeError 3343 when it lies outside.
-std::uint8_t Byte(std::string_view bytes, std::size_t at);
-std::uint16_t Word(std::string_view bytes, std::size_t at);
-std::uint32_t Dword(std::string_view bytes, std::size_t at);
-std::uint64_t Qword(std::string_view bytes, std::size_t at);
-/// A part of bytes, checked alike.
-std::string_view Part(std::string_view bytes, std::size_t at, std::size_t size);
-
 /// Damage: RuntimeError 3343 with what is wrong.
 [[noreturn]] void Damaged(const std::string& what);
+
+/// A number of the file's bytes as they stand, little-endian.
+template <class Number>
+Number ReadNumber(std::string_view bytes, std::size_t at) {
+    if (at > bytes.size() || bytes.size() - at < sizeof(Number))
+        Damaged("a number lies outside its page");
+    Number value = 0;
+    std::memcpy(&value, bytes.data() + at, sizeof value);
+    return value;
+}
+
+/// Little-endian numbers at a place; throw RuntimeError 3343 when it lies outside. Inline, for
+/// every row is made of them.
+inline std::uint8_t Byte(std::string_view bytes, std::size_t at) {
+    return ReadNumber<std::uint8_t>(bytes, at);
+}
+inline std::uint16_t Word(std::string_view bytes, std::size_t at) {
+    return ReadNumber<std::uint16_t>(bytes, at);
+}
+inline std::uint32_t Dword(std::string_view bytes, std::size_t at) {
+    return ReadNumber<std::uint32_t>(bytes, at);
+}
+inline std::uint64_t Qword(std::string_view bytes, std::size_t at) {
+    return ReadNumber<std::uint64_t>(bytes, at);
+}
+
+/// A part of bytes, checked alike.
+std::string_view Part(std::string_view bytes, std::size_t at, std::size_t size);
 
 /// The bytes of a file by pages, with the rows of data pages.
 class PageFile {
