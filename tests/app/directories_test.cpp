@@ -126,5 +126,28 @@ TEST_F(Directories, WithoutInstalledFilesThereIsNoSharedDirectory) {
     EXPECT_EQ(SharedFilesDirectory(directory + "bin/tendo"), "");
 }
 
+TEST_F(Directories, TheSampleJobIsTakenFromTheSharedFilesWhenItIsMissing) {
+    Write("shared/share/tendo/Projects/Maple Street 12.tdw", "job");
+    State().ProjectsDirectory = directory + "Projects/";
+    std::filesystem::create_directories(home / "Projects");
+    const std::string executable = directory + "shared/bin/tendo";
+    EXPECT_EQ(FindSampleJob(executable), directory + "Projects/Maple Street 12.tdw");
+    EXPECT_EQ(Read("Projects/Maple Street 12.tdw"), "job");
+}
+
+TEST_F(Directories, ASampleJobThatIsThereIsNotTouched) {
+    Write("shared/share/tendo/Projects/Maple Street 12.tdw", "job");
+    Write("Projects/Maple Street 12.tdw", "edited");
+    State().ProjectsDirectory = directory + "Projects/";
+    EXPECT_EQ(FindSampleJob(directory + "shared/bin/tendo"),
+              directory + "Projects/Maple Street 12.tdw");
+    EXPECT_EQ(Read("Projects/Maple Street 12.tdw"), "edited");
+}
+
+TEST_F(Directories, WithoutSharedFilesThereIsNoSampleJob) {
+    State().ProjectsDirectory = directory + "Projects/";
+    EXPECT_EQ(FindSampleJob(directory + "shared/bin/tendo"), "");
+}
+
 }  // namespace
 }  // namespace tendo

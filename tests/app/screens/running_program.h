@@ -52,7 +52,9 @@ class RunningProgram : public ProgramHome {
         static int argc = 1;
         static char name[] = "test";
         static char* argv[] = {name, nullptr};
-        static QApplication application(argc, argv);
+        // Never destroyed: at the end of the process the platform behind it is gone first.
+        static auto* application = new QApplication(argc, argv);
+        ASSERT_NE(application, nullptr);
         auto service = std::make_unique<AnsweredDialogs>();
         dialogs = service.get();
         SetDialogs(std::move(service));
