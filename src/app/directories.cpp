@@ -76,6 +76,17 @@ void FillProgramDirectory(const std::string& programDirectory, const std::string
     }
 }
 
+std::string FindSampleJob(std::string_view executable) {
+    constexpr const char* sampleJob = "Maple Street 12.tdw";
+    const std::string job = State().ProjectsDirectory + sampleJob;
+    if (FileExists(job)) return job;
+    const std::string shared =
+        WithSeparator(SharedFilesDirectory(executable) + "Projects") + sampleJob;
+    if (!FileExists(shared)) return {};
+    CopyFileOver(shared, job);
+    return job;
+}
+
 std::string FindCommonDirectory(const CommonDirectoryQuestions& questions) {
     const std::string stored = VelmoProfileString("CommonDirectory");
     if (!stored.empty() && DirectoryExists(stored)) return WithSeparator(stored);

@@ -21,6 +21,10 @@ std::string SharedFilesDirectory(std::string_view executable);
 void FillProgramDirectory(const std::string& programDirectory, const std::string& sharedDirectory,
                           const std::string& winIni);
 
+/// The sample job in the Projects folder, put back there from the shared files when it is missing;
+/// empty when there is none.
+std::string FindSampleJob(std::string_view executable);
+
 /// What the search for the common directory asks its user.
 struct CommonDirectoryQuestions {
     std::function<void(const std::string& title, const std::string& text)> Warn;

@@ -62,10 +62,21 @@ CommonDirectoryQuestions DirectoryQuestions() {
             }};
 }
 
-void ShowMainWindow(const std::vector<std::string>& args) {
+/// Opens the sample job as a dropped file is opened: nothing is asked. A project that the start
+/// itself recovered stays.
+void OpenSampleJob() {
+    if (State().ProjectIsOpen) return;
+    const std::string job = FindSampleJob(QApplication::applicationFilePath().toStdString());
+    if (job.empty()) return;
+    State().FileToOpen = job;
+    mnuFileOpen_Click();
+}
+
+void ShowMainWindow(const StartOptions& options) {
     auto* main = new frmMDI;
     RefreshAvailableTools();
-    RunGuarded([main, &args] { main->MDIForm_Load(args); });
+    RunGuarded([main, &options] { main->MDIForm_Load(options.args); });
+    if (options.sample) RunGuarded(OpenSampleJob);
 }
 
 /// The steps before the logo; false when the common directory wasn't found.
@@ -104,7 +115,7 @@ bool StartTendo(const StartOptions& options) {
         EndProgram();
         return false;
     }
-    auto* splash = new frmSplash([args = options.args] { ShowMainWindow(args); });
+    auto* splash = new frmSplash([options] { ShowMainWindow(options); });
     splash->ShowLogo();
     if (options.shortLogo) splash->EndWait();
     return true;

@@ -13,6 +13,7 @@ struct StartOptions {
     std::string today;              // "1998-05-04" puts a fixed day in the clock's place
     std::vector<std::string> args;  // one file name at most
     bool shortLogo = false;         // ends the logo's wait at once
+    bool sample = false;            // opens the sample job when nothing else came up
 };
 
 /// Runs the whole start-up order. A QApplication must exist. With `shortLogo` the main window

@@ -109,6 +109,14 @@ Finding OfNoDialog(Session& session, const Words&) {
     return {"[]", unseen.dump()};
 }
 
+/// What the program asked of the desktop and nobody looked at yet; the oldest is looked at now.
+Finding OfShell(Session& session, const Words& words) {
+    MustHave(words, 3, "expect shell TEXT");
+    if (session.shellCallsLooked >= session.shellCalls.size())
+        throw CommandFault("nothing was asked of the desktop", words[2], nullptr);
+    return {words[2], session.shellCalls[session.shellCallsLooked++]};
+}
+
 Finding OfCell(Session&, const Words& words) {
     MustHave(words, 6, "expect cell FORM.GRID N M TEXT");
     return {words[5], CellOf(ControlOf(PathOf(words[2])), NumberOf(words[3]), NumberOf(words[4]))};
@@ -179,7 +187,7 @@ const std::map<std::string, Expectation> expectations = {
     {"dialog", OfDialog},     {"no-dialog", OfNoDialog}, {"cell", OfCell},
     {"head", OfHead},         {"focus", OfFocus},        {"call", OfCall},
     {"fails", OfFails},       {"surface", OfSurface},    {"no-surface", OfNoSurface},
-    {"document", OfDocument},
+    {"document", OfDocument}, {"shell", OfShell},
 };
 
 Finding Find(Session& session, const Words& words) {

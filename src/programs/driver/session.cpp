@@ -3,10 +3,13 @@
 #include <QApplication>
 #include <QMdiSubWindow>
 #include <QPointer>
+#include <QStandardPaths>
+#include <QUrl>
 #include <filesystem>
 #include <iostream>
 
 #include "app/screens/application.h"
+#include "app/screens/shell.h"
 #include "platform/files/paths.h"
 #include "platform/qt/form.h"
 #include "platform/text/runtime_error.h"
@@ -21,10 +24,27 @@ Session::Session(Options options) : options_(std::move(options)) {
     dialogs_ = dialogs.get();
     SetDialogs(std::move(dialogs));
     Form::SetModalObserver([this](Form& form) { AnswerModalForm(form); });
+    RecordShellCalls();
+}
+
+/// The desktop's answers without its doing: what is there opens or starts, what isn't fails.
+void Session::RecordShellCalls() {
+    constexpr int done = 33;
+    constexpr int fileNotFound = 2;
+    Shell().Open = [this](const std::string& target) {
+        shellCalls.push_back("open " + target);
+        const bool address = QUrl(QString::fromStdString(target)).scheme().size() > 1;
+        return address || FileExists(target) ? done : fileNotFound;
+    };
+    Shell().Start = [this](const std::string& program) {
+        shellCalls.push_back("start " + program);
+        return !QStandardPaths::findExecutable(QString::fromStdString(program)).isEmpty();
+    };
 }
 
 Session::~Session() {
     Form::SetModalObserver({});
+    Shell() = {};
 }
 
 void Session::StartProgram() {

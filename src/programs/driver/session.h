@@ -80,6 +80,10 @@ class Session {
 
     ScriptedDialogs& Dialogs_() { return *dialogs_; }
     std::vector<FormAnswer>& FormAnswers() { return formAnswers_; }
+    /// What the program asked of the desktop, in order: "open TARGET", "start PROGRAM". Nothing of
+    /// it is done.
+    std::vector<std::string> shellCalls;
+    std::size_t shellCallsLooked = 0;  // calls before this one were looked at by `expect shell`
     /// The document and call log searches of `expect surface`.
     std::size_t surfaceAt = 0;
 
@@ -89,6 +93,7 @@ class Session {
     void StartBefore(int number, const std::string& line);
     Json RunGuarded(const Words& words);
     void AnswerModalForm(Form& form);
+    void RecordShellCalls();
 
     Options options_;
     ScriptedDialogs* dialogs_ = nullptr;  // owned by the dialog seam

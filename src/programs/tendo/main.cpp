@@ -12,7 +12,8 @@ tendo::StartOptions ReadOptions(const QApplication& application) {
     const QCommandLineOption home("home", "The program directory.", "DIR");
     const QCommandLineOption winIni("win-ini", "The file with section \"Velmo Software\".", "FILE");
     const QCommandLineOption today("today", "The day to take for today.", "DATE");
-    parser.addOptions({home, winIni, today});
+    const QCommandLineOption sample("sample", "Opens the sample job.");
+    parser.addOptions({home, winIni, today, sample});
     parser.addHelpOption();
     parser.addPositionalArgument("FILE", "A project file.", "[FILE]");
     parser.process(application);
@@ -20,6 +21,7 @@ tendo::StartOptions ReadOptions(const QApplication& application) {
     options.home = parser.value(home).toStdString();
     options.winIni = parser.value(winIni).toStdString();
     options.today = parser.value(today).toStdString();
+    options.sample = parser.isSet(sample);
     for (const QString& word : parser.positionalArguments())
         options.args.push_back(word.toStdString());
     return options;
