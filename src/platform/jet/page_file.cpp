@@ -68,10 +68,6 @@ PageFile::PageFile(std::string bytes, std::string name)
                            name_ + " is encrypted and can't be read");
 }
 
-int PageFile::CodePage() const {
-    return Word(header_, 0x3c - MaskedFrom);
-}
-
 bool PageFile::HasPassword() const {
     const std::size_t size = layout_.jet4 ? 40 : 20;
     unsigned char mask[4] = {};

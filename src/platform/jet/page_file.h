@@ -65,10 +65,7 @@ class PageFile {
     const Layout& Offsets() const { return layout_; }
     std::uint32_t PageCount() const { return pageCount_; }
     std::size_t Size() const { return bytes_.size(); }
-    /// Unmasked bytes 0x18 to 0x97 of the header.
-    std::string_view Header() const { return header_; }
     bool HasPassword() const;
-    int CodePage() const;
 
     /// A page from 1; throws when there is none of the number.
     std::string_view Page(std::uint32_t number) const;
@@ -88,7 +85,7 @@ class PageFile {
   private:
     std::string bytes_;
     std::string name_;
-    std::string header_;
+    std::string header_;  // unmasked bytes 0x18 to 0x97
     Layout layout_;
     std::uint32_t pageCount_ = 0;
 };
