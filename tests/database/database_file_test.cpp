@@ -252,7 +252,7 @@ TEST_F(DatabaseFileTest, FilesThatAreNoDatabasesAreTold) {
 }
 
 TEST_F(DatabaseFileTest, AFileWhoseContentsWouldBeLostIsNotChanged) {
-    const std::string path = SharedFile(4, true);
+    const std::string path = SharedFile(3, true);
     if (path.empty()) GTEST_SKIP() << "no file with such contents in ../shared";
     const std::string before = ReadWholeFile(path);
     Database database = Database::OpenDatabase(path);
