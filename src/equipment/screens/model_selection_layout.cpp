@@ -27,9 +27,14 @@ constexpr const char* gridSheet =
     "QHeaderView::section { padding: 6px 11px; } QTableView QTableCornerButton::section, "
     "QAbstractScrollArea::corner { background: transparent; border: 0; }";
 
-/// In the order of ModelLimit.
-constexpr const char* limitButtonNames[] = {"btnSetMinimumCapacity", "btnSetMaximumCapacity",
-                                            "btnSetMinimumEfficiency"};
+struct LimitButton {
+    ModelLimit limit;
+    const char* name;
+};
+constexpr LimitButton limitButtonTable[] = {
+    {ModelLimit::MinimumCapacity, "btnSetMinimumCapacity"},
+    {ModelLimit::MaximumCapacity, "btnSetMaximumCapacity"},
+    {ModelLimit::MinimumEfficiency, "btnSetMinimumEfficiency"}};
 
 QPushButton* MakeButton(const char* name, const QString& caption, QWidget* parent) {
     auto* button = new QPushButton(caption, parent);
@@ -94,11 +99,11 @@ QWidget* frmModelSelection::MakeDatabaseRow() {
 QWidget* frmModelSelection::MakeLimitRow() {
     auto* box = new QWidget(this);
     QHBoxLayout* row = RowOf(box);
-    for (std::size_t i = 0; i < limitButtons_.size(); ++i) {
-        const auto limit = static_cast<ModelLimit>(i);
-        limitButtons_[i] = MakeButton(limitButtonNames[i], "", box);
-        connect(limitButtons_[i], &QPushButton::clicked, this, [this, limit] { SetLimit(limit); });
-        row->addWidget(limitButtons_[i]);
+    for (const auto& [limit, name] : limitButtonTable) {
+        QPushButton* button = MakeButton(name, "", box);
+        connect(button, &QPushButton::clicked, this, [this, which = limit] { SetLimit(which); });
+        limitButtons_[static_cast<std::size_t>(limit)] = button;
+        row->addWidget(button);
     }
     lblCount_ = new ElidedLabel(box);
     lblCount_->setObjectName("lblCount");

@@ -115,4 +115,9 @@ void BoundFields::Enter(TableField field, const QString& text) {
     line->Commit();
 }
 
+void FitText(TextField* field, const QString& text) {
+    constexpr int edges = 24;  // borders, padding and the caret
+    field->setMinimumWidth(field->fontMetrics().horizontalAdvance(text) + edges);
+}
+
 }  // namespace tendo

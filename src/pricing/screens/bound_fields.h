@@ -49,4 +49,7 @@ class BoundFields : public QObject {
     bool collecting_ = false;
 };
 
+/// Makes an entry line at least as wide as a text in its font.
+void FitText(TextField* field, const QString& text);
+
 }  // namespace tendo
