@@ -11,6 +11,7 @@
 #include "platform/files/ini_file_handler.h"
 #include "platform/files/profile.h"
 #include "platform/qt/fields.h"
+#include "platform/text/runtime_error.h"
 
 namespace tendo {
 namespace {
@@ -181,10 +182,17 @@ void Form::closeEvent(QCloseEvent* event) {
     }
     FormUnload();
     unloaded_ = true;
-    if (!placementSection_.isEmpty())
-        StorePlacement(subWindow_ ? static_cast<QWidget*>(subWindow_) : this, placementSection_);
+    if (!placementSection_.isEmpty()) KeepPlacement();
     event->accept();
     TellList();
+}
+
+void Form::KeepPlacement() {
+    try {
+        StorePlacement(subWindow_ ? static_cast<QWidget*>(subWindow_) : this, placementSection_);
+    } catch (const RuntimeError&) {
+        // A profile that can't be written costs the window's place, which is not worth a message.
+    }
 }
 
 void Form::RestorePlacement(QWidget* window, const QString& section) {

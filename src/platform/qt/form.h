@@ -85,6 +85,7 @@ class Form : public QWidget {
 
   private:
     void MakeSubWindow();
+    void KeepPlacement();
 
     Place place_;
     QString placementSection_;
