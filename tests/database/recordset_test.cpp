@@ -9,7 +9,6 @@ namespace {
 
 using jet::ColumnType;
 
-constexpr std::monostate Null;
 
 TEST(Recordset, OpensOnTheFirstRowInTableOrder) {
     Database book = PriceBook();

@@ -42,7 +42,8 @@ std::string DateText(double serial) {
 
 std::string Hex(const std::string& bytes) {
     std::string text;
-    for (const unsigned char byte : bytes) {
+    for (const char each : bytes) {
+        const auto byte = static_cast<unsigned char>(each);
         char two[3];
         std::snprintf(two, sizeof two, "%02x", byte);
         text += two;

@@ -27,7 +27,8 @@ Index IndexOf(const std::string& name, const std::vector<std::string>& columns,
 std::string Hex(const std::string& bytes) {
     std::string text;
     char two[3];
-    for (const unsigned char byte : bytes) {
+    for (const char each : bytes) {
+        const auto byte = static_cast<unsigned char>(each);
         std::snprintf(two, sizeof two, "%02x", byte);
         text += two;
     }
