@@ -16,6 +16,7 @@
 #include "app/screens/wiring.h"
 #include "app/startup.h"
 #include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 #include "platform/qt/dialogs.h"
 #include "platform/text/date_text.h"
 #include "platform/text/runtime_error.h"
@@ -62,14 +63,23 @@ CommonDirectoryQuestions DirectoryQuestions() {
             }};
 }
 
-/// Opens the sample job as a dropped file is opened: nothing is asked. A project that the start
+/// A run that ended badly left a work file with other contents beside the project.
+bool LeftUnsavedWork(const std::string& project) {
+    const std::string workFile = DirectoryOf(project) + StemOf(project) + ".tmp";
+    return FileExists(workFile) && ReadWholeFile(workFile) != ReadWholeFile(project);
+}
+
+/// Opens the sample job; asks only when there is unsaved work to keep. A project that the start
 /// itself recovered stays.
 void OpenSampleJob() {
     if (State().ProjectIsOpen) return;
     const std::string job = FindSampleJob(QApplication::applicationFilePath().toStdString());
     if (job.empty()) return;
+    State().OpenNamedFile = LeftUnsavedWork(job);
     State().FileToOpen = job;
     mnuFileOpen_Click();
+    State().OpenNamedFile = false;
+    State().FileToOpen.clear();
 }
 
 void ShowMainWindow(const StartOptions& options) {

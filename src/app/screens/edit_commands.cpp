@@ -20,23 +20,31 @@ void WithTextField(Act act) {
         act(rich);
 }
 
+/// Figures that can only be read are copied from, nothing more.
+template <class Act>
+void WithEditableField(Act act) {
+    WithTextField([&act](auto* field) {
+        if (!field->isReadOnly()) act(field);
+    });
+}
+
 void DeleteSelection(QLineEdit* field) {
-    if (!field->isReadOnly() && field->hasSelectedText()) field->del();
+    if (field->hasSelectedText()) field->del();
 }
 
 template <class Edit>
 void DeleteSelection(Edit* field) {
-    if (!field->isReadOnly()) field->textCursor().removeSelectedText();
+    field->textCursor().removeSelectedText();
 }
 
 }  // namespace
 
 void mnuEditUndo_Click() {
-    WithTextField([](auto* field) { field->undo(); });
+    WithEditableField([](auto* field) { field->undo(); });
 }
 
 void mnuEditCut_Click() {
-    WithTextField([](auto* field) { field->cut(); });
+    WithEditableField([](auto* field) { field->cut(); });
 }
 
 void mnuEditCopy_Click() {
@@ -44,11 +52,11 @@ void mnuEditCopy_Click() {
 }
 
 void mnuEditPaste_Click() {
-    WithTextField([](auto* field) { field->paste(); });
+    WithEditableField([](auto* field) { field->paste(); });
 }
 
 void mnuEditDelete_Click() {
-    WithTextField([](auto* field) { DeleteSelection(field); });
+    WithEditableField([](auto* field) { DeleteSelection(field); });
 }
 
 void mnuEditSelectAll_Click() {

@@ -50,8 +50,11 @@ class OpenCommand {
     void Finish();
     Next TempFileFailed();
     static Next StopWithHourglass();
+    void KeepOldProject();
 
     const std::string oldName_ = State().ProjectFileName;
+    const std::string oldWorkName_ = State().WorkFileName;
+    const ProjectRecords oldRecords_ = Project();
     std::string dialogName_;
     int step_ = 0;
 };
@@ -87,8 +90,8 @@ OpenCommand::Next OpenCommand::OpenReadyName() {
             "open your last used project upon startup, check that file to make sure that it "
             "has not been moved or damaged.");
         ShowMessage(openErrorTitle, error.Description());
-        State().ProjectFileName = oldName_;
-        NormalPointer();
+        State().FileToOpen.clear();  // the next Open asks for a file again
+        KeepOldProject();
         return Next::Stop;
     }
 }
@@ -117,8 +120,17 @@ OpenCommand::Next OpenCommand::TempFileFailed() {
     ShowMessage(openErrorTitle,
                 "An error occured while trying to open the temp file left from your project.  The "
                 "file must not be usable.");
-    NormalPointer();
+    KeepOldProject();
     return Next::Stop;
+}
+
+/// After a failure names and records belong together again, so that no later save writes the one
+/// project over the other.
+void OpenCommand::KeepOldProject() {
+    State().ProjectFileName = oldName_;
+    State().WorkFileName = oldWorkName_;
+    Project() = oldRecords_;
+    NormalPointer();
 }
 
 OpenCommand::Next OpenCommand::StopWithHourglass() {
@@ -153,8 +165,7 @@ OpenCommand::Next OpenCommand::OpenChosenFile() {
             "An error occurred while trying to open your project.  The project that was open "
             "when you attempted this operation is the current project.\nLocation = " +
                 std::to_string(step_));
-        State().ProjectFileName = oldName_;
-        NormalPointer();
+        KeepOldProject();
         return Next::Stop;
     }
 }
@@ -223,15 +234,22 @@ void OpenCommand::OpenFromProjectFile() {
     ResetProjectData();
     MakeFileExtensions();
     CopyFileOver(State().ProjectFileName, State().WorkFileName);
-    LoadWorkFile();
+    try {
+        LoadWorkFile();
+    } catch (const RuntimeError&) {
+        DeleteWorkFile();  // a copy of what can't be read; left there it would pass for unsaved
+                           // work
+        throw;
+    }
     State().ProjectIsOpen = true;
 }
 
 void OpenCommand::OpenFromWorkFile() {
     ResetProjectData();
     MakeFileExtensions();
-    CopyFileOver(State().WorkFileName, State().ProjectFileName);
+    // Read first: a work file that can't be read must not take the place of the user's file.
     LoadWorkFile();
+    CopyFileOver(State().WorkFileName, State().ProjectFileName);
     State().ProjectIsOpen = true;
 }
 

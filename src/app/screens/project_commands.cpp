@@ -114,6 +114,7 @@ SaveQuestion AskToSaveProject() {
 
 void CheckSaveOnClose() {
     if (!State().ProjectIsOpen || !State().ProjectChanged) return;
+    State().SaveCancelled = false;  // only this question's own answer counts
     switch (AskToSaveProject()) {
         case SaveQuestion::Save:
             mnuFileSave_Click();

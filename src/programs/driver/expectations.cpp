@@ -67,12 +67,20 @@ Finding OfForm(Session&, const Words& words) {
     throw CommandFault("a form has no property " + words[3]);
 }
 
+/// The bytes hold a text as it stands or, as databases keep texts, with two bytes a character.
+bool HoldsText(const std::string& bytes, const std::string& text) {
+    const QString wide = QString::fromStdString(text);
+    const std::string pairs(reinterpret_cast<const char*>(wide.utf16()),
+                            2 * static_cast<std::size_t>(wide.size()));
+    return bytes.find(text) != std::string::npos || bytes.find(pairs) != std::string::npos;
+}
+
 Finding OfFile(Session& session, const Words& words) {
     MustHave(words, 5, "expect file PATH exists true | same-as OTHER | length N");
     const std::string file = session.FileToRead(words[2]);
     if (words[3] == "exists") return {words[4], FileExists(file) || DirectoryExists(file)};
     if (words[3] == "length") return {words[4], FileLength(file)};
-    if (words[3] == "holds") return {"~" + words[4], ReadWholeFile(file)};
+    if (words[3] == "holds") return {"true", HoldsText(ReadWholeFile(file), words[4])};
     if (words[3] == "same-as") {
         const bool same = ReadWholeFile(file) == ReadWholeFile(session.FileToRead(words[4]));
         return {"true", same};
