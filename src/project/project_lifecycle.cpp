@@ -31,6 +31,18 @@ std::string AutoloadFile() {
     return {};
 }
 
+/// A new work file with the rows of the reset records. It gets its name when it is filled: one
+/// without rows must never be found by the next start, which could not open it.
+void MakeWorkFile() {
+    if (FileExists(State().WorkFileName)) return;
+    std::string filling = WithoutExtension(State().WorkFileName) + ".new.tmp";
+    DeleteFileIfThere(filling);
+    CreateProjectDatabase(filling);
+    SaveProjectData(filling);
+    CopyFileOver(filling, State().WorkFileName);
+    DeleteFileIfThere(filling);
+}
+
 std::string RecentFileKey(int index) {
     return "File" + std::to_string(index);
 }
@@ -66,7 +78,7 @@ void CopyAutoloadProject() {
     const bool wanted = Ini().MyGetAppProfileInteger("Options", "NewProjectsCopyAutoload", 0) != 0;
     const std::string autoload = wanted ? AutoloadFile() : std::string();
     if (autoload.empty()) {
-        CreateProjectDatabase(State().WorkFileName);
+        MakeWorkFile();
         return;
     }
     LoadProjectData(autoload);
