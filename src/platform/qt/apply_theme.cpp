@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <map>
 
+#include "platform/qt/enhanced_input.h"
 #include "platform/qt/style.h"
 #include "platform/qt/theme.h"
 
@@ -143,6 +144,7 @@ void ApplyTheme(QApplication& application) {
 
 void ApplyTheme(QApplication& application, bool dark) {
     InitResources();
+    GuardFieldsFromWheel();
     SetThemeColors(dark ? DarkColors() : LightColors());
     application.setStyleSheet({});
     application.setStyle(new TendoStyle);

@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QMetaMethod>
 
 #include "platform/qt/theme.h"
 
@@ -98,8 +99,9 @@ void TextField::SetEntryObserver(std::function<void(TextField*)> observer) {
 
 void TextField::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F1) {
+        // Without a help of its own the key goes on to the screen's page of the guide.
+        event->setAccepted(isSignalConnected(QMetaMethod::fromSignal(&TextField::HelpWanted)));
         Q_EMIT HelpWanted();
-        event->ignore();
         return;
     }
     const QString typed = event->text();
