@@ -7,6 +7,7 @@
 
 #include "platform/qt/dialogs.h"
 #include "platform/text/date_text.h"
+#include "platform/text/input_rules.h"
 #include "platform/text/number_text.h"
 #include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
@@ -112,8 +113,8 @@ void frmGPD::txtDefDB_Change() {
 }
 
 void frmGPD::txtLaborRate_LostFocus() {
-    const float rate = ValueOfText(txtLaborRate_->text().toStdString());
-    txtLaborRate_->ShowText(QString::fromStdString(FormatNumber(rate, MoneyPicture)));
+    const std::string typed = txtLaborRate_->text().toStdString();
+    txtLaborRate_->ShowText(QString::fromStdString(PlainNumberOnLeave(typed, MoneyPicture)));
     Store();
 }
 

@@ -9,6 +9,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "platform/qt/enhanced_input.h"
 #include "project/program_state.h"
 #include "project/screens/frm_gpd.h"
 
@@ -18,6 +19,7 @@ namespace {
 constexpr int storeInterval = 1000;  // milliseconds
 constexpr int memoLines = 3;
 constexpr int buttonWidth = 104;
+constexpr double greatestLaborRate = 9'999'999.99;
 constexpr int labelWidth = 112;  // one width on all tabs
 
 QPushButton* MakeButton(const char* name, const char* caption, QWidget* parent) {
@@ -31,6 +33,34 @@ void AddSection(QGridLayout* grid, const char* heading, QWidget* page) {
     const int row = grid->rowCount();
     grid->setRowMinimumHeight(row, 16);
     grid->addWidget(MakeHeading(heading, page), row + 1, 0, 1, 2);
+}
+
+/// What may be typed into a control of this screen; nothing for a tick box.
+std::shared_ptr<InputValidator> ValidatorOf(const QWidget* control) {
+    auto validator = std::make_shared<InputValidator>();
+    if (const auto* field = qobject_cast<const TextField*>(control)) {
+        validator->NumberField = field->Kind() == EntryKind::Money;
+        validator->MaxNumberValue = greatestLaborRate;
+        validator->NumberOfDecimalPlaces = 2;
+        validator->MaxTextLength = field->maxLength();
+        return validator;
+    }
+    for (const GPDText& text : GPDTexts()) {
+        if (control->objectName() != text.spec.name) continue;
+        validator->MaxTextLength = text.spec.maxLength;
+        return validator;
+    }
+    return nullptr;
+}
+
+/// Arrow keys and Return lead through the fields of a page from top to bottom.
+void EnhanceFields(const QWidget* page) {
+    std::vector<EnhancedInput*> fields;
+    for (auto* control : page->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (qobject_cast<TextField*>(control) || qobject_cast<QPlainTextEdit*>(control) ||
+            qobject_cast<QCheckBox*>(control))
+            fields.push_back(new EnhancedInput(control, ValidatorOf(control)));
+    ChainFields(fields);
 }
 
 QHBoxLayout* Row(std::initializer_list<QWidget*> widgets, bool stretch) {
@@ -79,6 +109,7 @@ QWidget* frmGPD::MakePage(GPDTab tab, const char* caption) {
         AddImport(grid, page);
     }
     grid->setRowStretch(grid->rowCount(), 1);
+    EnhanceFields(page);
     tabs_->addTab(page, caption);
     return page;
 }

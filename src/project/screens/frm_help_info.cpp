@@ -11,6 +11,7 @@
 
 #include "platform/qt/fields.h"
 #include "platform/qt/form.h"
+#include "platform/text/input_rules.h"
 
 namespace tendo {
 namespace {
@@ -69,6 +70,9 @@ class frmHelpInfo : public Form {
                              .width = 14};
         amount_ = new TextField(spec, this);
         amount_->setText(Q(info_.amount));
+        amount_->KeyFilter = [](QChar key, const QString& rest) {
+            return PlainNumberKeyPasses(key.unicode(), true, rest.toStdU32String());
+        };
         auto* label = MakeLabel(Caption(info_.amountCaption), amount_, this);
         label->setObjectName("lblAmountCaption");
         auto* row = new QHBoxLayout;
