@@ -3,6 +3,9 @@
 #include "app/screens/bar.h"
 #include "app/screens/command_dispatch.h"
 #include "app/screens/frm_about.h"
+#include "app/screens/frm_help.h"
+#include "app/screens/frm_status.h"
+#include "app/screens/frm_tip.h"
 #include "app/screens/screen_table.h"
 #include "equipment/screens/frm_model_selection.h"
 #include "materials/material_catalogue.h"
@@ -25,6 +28,9 @@ void EnterScreens() {
     RegisterScreen("frmGPD", Make<frmGPD>);
     RegisterScreen("frmSumModelData", Make<frmSumModelData>);
     RegisterScreen("frmAbout", MakeAboutForm);
+    RegisterScreen("frmTip", Make<frmTip>);
+    RegisterScreen("frmStatus", Make<frmStatus>);
+    RegisterHelp();
 }
 
 void RefillPriceScreen() {
