@@ -78,7 +78,7 @@ void FillProgramDirectory(const std::string& programDirectory, const std::string
 
 std::string FindSampleJob(std::string_view executable) {
     constexpr const char* sampleJob = "Maple Street 12.tdw";
-    const std::string job = State().ProjectsDirectory + sampleJob;
+    std::string job = State().ProjectsDirectory + sampleJob;
     if (FileExists(job)) return job;
     const std::string shared =
         WithSeparator(SharedFilesDirectory(executable) + "Projects") + sampleJob;

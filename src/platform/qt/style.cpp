@@ -48,9 +48,8 @@ void DrawTitleBar(const QStyle* style, const QStyleOptionTitleBar& option, QPain
     // The label's own place leaves room for an icon that these bars don't have.
     const QRect text(option.rect.left() + 14, label.top(), label.right() - option.rect.left() - 18,
                      label.height());
-    painter->drawText(
-        text, Qt::AlignLeft | Qt::AlignVCenter,
-        painter->fontMetrics().elidedText(option.text, Qt::ElideRight, text.width()));
+    painter->drawText(text, Qt::AlignLeft | Qt::AlignVCenter,
+                      painter->fontMetrics().elidedText(option.text, Qt::ElideRight, text.width()));
     painter->setRenderHint(QPainter::Antialiasing);
     for (const auto button : {QStyle::SC_TitleBarMinButton, QStyle::SC_TitleBarMaxButton,
                               QStyle::SC_TitleBarNormalButton, QStyle::SC_TitleBarCloseButton}) {

@@ -1,5 +1,7 @@
 #include "platform/qt/text_measurer_qt.h"
 
+#include <QFontDatabase>
+
 #include <QString>
 #include <QStringList>
 #include <algorithm>
@@ -41,6 +43,10 @@ QString ToQString(std::string_view text) {
 }
 
 }  // namespace
+
+bool DocumentFontsInstalled() {
+    return QFontDatabase::hasFamily("Liberation Sans");
+}
 
 QFont DocumentFont(const FontSpec& spec) {
     QFont font(QStringList{Family(spec.family), QStringLiteral("Liberation Sans")});

@@ -13,6 +13,14 @@ namespace tendo {
 /// are set in Liberation Sans, which has the same widths on every machine.
 QFont DocumentFont(const FontSpec& spec);
 
+/// True when the fonts are there that documents are set in; without them every page breaks
+/// elsewhere.
+bool DocumentFontsInstalled();
+inline constexpr const char* MissingFontsText =
+    "The Liberation fonts, in which reports are set, are not installed on this computer. Please "
+    "install the "
+    "package fonts-liberation.";
+
 /// Measures with the fonts that the painters use. Needs a QGuiApplication.
 class QtTextMeasurer : public TextMeasurer {
   public:

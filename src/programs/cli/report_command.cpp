@@ -73,6 +73,7 @@ void RunReport(const Arguments& arguments) {
     char name[] = "tendo-cli";
     char* words[] = {name, nullptr};
     const QGuiApplication application(count, words);
+    if (!DocumentFontsInstalled()) throw Failure(MissingFontsText);
     QtTextMeasurer measurer;
     const Document document = BuildReportPackage(records, measurer, selection);
     if (document.pages.empty())

@@ -3,6 +3,8 @@
 
 #include "app/screens/application.h"
 #include "platform/qt/apply_theme.h"
+#include "platform/qt/dialogs.h"
+#include "platform/qt/text_measurer_qt.h"
 
 namespace {
 
@@ -32,6 +34,8 @@ tendo::StartOptions ReadOptions(const QApplication& application) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     tendo::ApplyTheme(application);
+    if (!tendo::DocumentFontsInstalled())
+        tendo::ShowMessage("TENDO", tendo::MissingFontsText, tendo::MessageIcon::Warning);
     if (!tendo::StartTendo(ReadOptions(application))) return 1;
     return QApplication::exec();
 }
