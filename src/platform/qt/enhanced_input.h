@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QEvent>
 #include <QIcon>
 #include <QListWidget>
 #include <QPointer>
