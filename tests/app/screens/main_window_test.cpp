@@ -164,6 +164,8 @@ TEST_F(MainWindow, AToolTakenOffTheToolbarStaysOff) {
 }
 
 TEST_F(MainWindow, ACommandFoundByAPartOfItsNameRunsOnce) {
+    Form::Find("frmTip")->Unload();
+    QApplication::processEvents();
     auto* box = Form::Find("frmMDI")->findChild<QLineEdit*>("txtSearchCommands");
     box->setFocus();
     for (const QChar letter : QString("home")) {
