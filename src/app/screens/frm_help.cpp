@@ -1,7 +1,8 @@
 #include "app/screens/frm_help.h"
 
 #include <QApplication>
-#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -20,7 +21,6 @@
 #include "app/screens/screen_table.h"
 #include "app/screens/shell.h"
 #include "platform/files/paths.h"
-#include "platform/qt/fields.h"
 #include "platform/qt/icons.h"
 #include "platform/qt/theme.h"
 
@@ -39,7 +39,7 @@ std::string GuideFolder() {
     return WithSeparator(WithSeparator(WithSeparator(shared) + "docs") + "guide");
 }
 
-/// The guide's pages are wider than the reader only in their pictures; those shrink to fit.
+/// Shows the guide's pictures in the colours in use, no wider than there is room.
 class GuideBrowser : public QTextBrowser {
   public:
     using QTextBrowser::QTextBrowser;
@@ -48,7 +48,9 @@ class GuideBrowser : public QTextBrowser {
         if (type != QTextDocument::ImageResource) return QTextBrowser::loadResource(type, name);
         QString path = name.isLocalFile() ? name.toLocalFile() : name.toString();
         if (QDir::isRelativePath(path)) path = QString::fromStdString(GuideFolder()) + path;
-        const QImage image(path);
+        // Screens are pictured in both sets of colours, "price_light.png" and "price_dark.png".
+        const QString dark = QString(path).replace("_light.", "_dark.");
+        const QImage image(Theme().dark && QFile::exists(dark) ? dark : path);
         const int room = viewport()->width() - 64;
         if (image.width() <= room || room <= 0) return image;
         return image.scaledToWidth(room, Qt::SmoothTransformation);
@@ -70,9 +72,7 @@ void SpaceOut(QTextDocument& document) {
         QTextTableFormat format = table->format();
         format.setCellPadding(6);
         format.setCellSpacing(0);
-        format.setBorder(1);
-        format.setBorderBrush(Theme().line);
-        format.setBorderCollapse(true);
+        format.setBorder(0);
         format.setBottomMargin(12);
         table->setFormat(format);
     }
@@ -146,6 +146,7 @@ QWidget* frmHelp::MakeSide() {
     lstPages_->setObjectName("lstPages");
     lstPages_->setAccessibleName("Pages of the guide");
     lstPages_->setWordWrap(true);
+    lstPages_->setStyleSheet("QListView::item { padding: 6px 8px; }");
     lstPages_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     rows->addWidget(txtSearch_);
     rows->addWidget(lblFound_);
