@@ -1,10 +1,14 @@
 #include "platform/qt/apply_theme.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFile>
 #include <QPalette>
+#include <QTimer>
+#include <QWidget>
 #include <map>
 
+#include "platform/qt/desktop_colors.h"
 #include "platform/qt/enhanced_input.h"
 #include "platform/qt/style.h"
 #include "platform/qt/theme.h"
@@ -129,17 +133,40 @@ QString SheetOf(const ThemeColors& colors) {
     return sheet;
 }
 
-bool DesktopIsDark() {
-    const QByteArray wish = qgetenv("TENDO_THEME");
-    if (wish == "dark") return true;
-    if (wish == "light") return false;
-    return QApplication::palette().color(QPalette::Window).lightness() < 128;
-}
+/// Takes the desktop's colours on again when the desktop changes them.
+class DesktopFollower : public QObject {
+  public:
+    explicit DesktopFollower(QApplication& application)
+        : QObject(&application), application_(application) {
+        application.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        // Every window is told; one answer, once they all are, is enough.
+        if (event->type() == QEvent::ThemeChange && !waiting_) {
+            waiting_ = true;
+            QTimer::singleShot(0, this, [this] { Follow(); });
+        }
+        return QObject::eventFilter(object, event);
+    }
+
+  private:
+    void Follow() {
+        ApplyTheme(application_, DesktopIsDark());
+        for (QWidget* widget : QApplication::allWidgets())
+            widget->update();
+        waiting_ = false;
+    }
+
+    QApplication& application_;
+    bool waiting_ = false;
+};
 
 }  // namespace
 
 void ApplyTheme(QApplication& application) {
     ApplyTheme(application, DesktopIsDark());
+    new DesktopFollower(application);
 }
 
 void ApplyTheme(QApplication& application, bool dark) {
