@@ -9,7 +9,6 @@ namespace {
 
 using jet::ColumnType;
 
-
 TEST(Recordset, OpensOnTheFirstRowInTableOrder) {
     Database book = PriceBook();
     Recordset rows = book.OpenRecordset("Materials");

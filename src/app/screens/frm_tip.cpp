@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <cmath>
 #include <random>
 
 #include "platform/files/paths.h"
@@ -34,8 +35,7 @@ constexpr int textHeight = 96;
 /// The day and the time of it in seconds: another one at each start.
 std::uint32_t ClockSeed() {
     constexpr double secondsOfDay = 86400;
-    return static_cast<std::uint32_t>(
-        static_cast<std::uint64_t>(SerialOfDate(Now()) * secondsOfDay + 0.5));
+    return static_cast<std::uint32_t>(std::llround(SerialOfDate(Now()) * secondsOfDay));
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ std::optional<MoveKey> MoveKeyOf(int key) {
 QWidget* ScreenOf(QWidget* control) {
     for (QWidget* widget = control; widget; widget = widget->parentWidget())
         if (qobject_cast<Form*>(widget)) return widget;
-    return control->window();
+    return control ? control->window() : nullptr;
 }
 
 bool TakesFocus(const QWidget* control) {
