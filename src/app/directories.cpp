@@ -98,7 +98,8 @@ std::string FindCommonDirectory(const CommonDirectoryQuestions& questions) {
     const std::optional<std::string> chosen = questions.Locate();
     if (chosen && FileExists(*chosen) && UpperCase(BaseName(*chosen)) == LocateFile) {
         std::string directory = WithSeparator(DirectoryOf(*chosen));
-        WriteProfileString(State().WinIniFile, velmoSection, "CommonDirectory", directory);
+        // The name of a section does not depend on case; the maker's programs write it so.
+        WriteProfileString(State().WinIniFile, "Velmo SoftWare", "CommonDirectory", directory);
         return directory;
     }
     questions.Warn("File Not Found",

@@ -1,12 +1,21 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace tendo {
 
 struct ProjectRecords;
+
+/// What tells one state of a file from another.
+struct FileStamp {
+    std::uintmax_t size = 0;
+    std::filesystem::file_time_type time;
+    bool operator==(const FileStamp&) const = default;
+};
 
 /// What start-up finds out and the whole program reads.
 struct ProgramState {
@@ -34,6 +43,8 @@ struct ProgramState {
     bool MaterialDatabaseHeld = false;  // a screen holds the material database open
 
     int SystemNumber = 0;  // the current system, 0 to 4
+
+    std::optional<FileStamp> ProjectFileStamp;  // the user's file as this program knows it
 };
 
 ProgramState& State();

@@ -1,6 +1,8 @@
 #include "project/project_lifecycle.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <optional>
 #include <utility>
 
 #include "platform/files/ini_file_handler.h"
@@ -43,6 +45,14 @@ void MakeWorkFile() {
     DeleteFileIfThere(filling);
 }
 
+std::optional<FileStamp> StampOf(const std::string& name) {
+    std::error_code sizeError, timeError;
+    const FileStamp stamp{std::filesystem::file_size(name, sizeError),
+                          std::filesystem::last_write_time(name, timeError)};
+    if (sizeError || timeError) return std::nullopt;
+    return stamp;
+}
+
 std::string RecentFileKey(int index) {
     return "File" + std::to_string(index);
 }
@@ -66,6 +76,15 @@ void LoadWorkFile() {
 
 void SaveWorkFile() {
     SaveProjectData(State().WorkFileName);
+}
+
+void RememberProjectFile() {
+    State().ProjectFileStamp = StampOf(State().ProjectFileName);
+}
+
+bool ProjectFileWasChanged() {
+    const std::optional<FileStamp> now = StampOf(State().ProjectFileName);
+    return now && State().ProjectFileStamp && *now != *State().ProjectFileStamp;
 }
 
 std::string ProjectCaption() {

@@ -21,6 +21,13 @@ void LoadWorkFile();
 /// Saves the records to the work file; nothing when there is none.
 void SaveWorkFile();
 
+/// Remembers the user's file as it stands on disk, after it was read or written.
+void RememberProjectFile();
+
+/// Another program has changed the user's file since it was remembered. A file that is gone holds
+/// nothing that a save could destroy.
+bool ProjectFileWasChanged();
+
 /// The main window's caption: "Tendo - JOB.TDW", or "Tendo - (UNTITLED)".
 std::string ProjectCaption();
 

@@ -54,6 +54,7 @@ class OpenCommand {
 
     const std::string oldName_ = State().ProjectFileName;
     const std::string oldWorkName_ = State().WorkFileName;
+    const std::optional<FileStamp> oldStamp_ = State().ProjectFileStamp;
     const ProjectRecords oldRecords_ = Project();
     std::string dialogName_;
     int step_ = 0;
@@ -129,6 +130,7 @@ OpenCommand::Next OpenCommand::TempFileFailed() {
 void OpenCommand::KeepOldProject() {
     State().ProjectFileName = oldName_;
     State().WorkFileName = oldWorkName_;
+    State().ProjectFileStamp = oldStamp_;
     Project() = oldRecords_;
     NormalPointer();
 }
@@ -175,8 +177,9 @@ bool OpenCommand::LeaveOpenProject() {
     CloseProjectWindows();
     if (State().StartingUp || !State().ProjectIsOpen || !State().ProjectChanged) return true;
     const SaveQuestion answer = AskToSaveProject();
+    State().SaveCancelled = false;
     if (answer == SaveQuestion::Save) mnuFileSave_Click();
-    return answer != SaveQuestion::Stop;
+    return answer != SaveQuestion::Stop && !State().SaveCancelled;
 }
 
 void OpenCommand::ChooseFile() {
@@ -233,6 +236,7 @@ OpenCommand::Next OpenCommand::OpenBesideTempFile() {
 void OpenCommand::OpenFromProjectFile() {
     ResetProjectData();
     MakeFileExtensions();
+    RememberProjectFile();  // before it is read: a change in between must be noticed
     CopyFileOver(State().ProjectFileName, State().WorkFileName);
     try {
         LoadWorkFile();
@@ -250,6 +254,7 @@ void OpenCommand::OpenFromWorkFile() {
     // Read first: a work file that can't be read must not take the place of the user's file.
     LoadWorkFile();
     CopyFileOver(State().WorkFileName, State().ProjectFileName);
+    RememberProjectFile();
     State().ProjectIsOpen = true;
 }
 

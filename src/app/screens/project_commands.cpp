@@ -39,7 +39,9 @@ bool LeaveOpenProject() {
     if (State().ProjectChanged) {
         const SaveQuestion answer = AskToSaveProject();
         if (answer == SaveQuestion::Stop) return false;
+        State().SaveCancelled = false;
         if (answer == SaveQuestion::Save) mnuFileSave_Click();
+        if (State().SaveCancelled) return false;
     }
     DeleteWorkFile();
     State().ProjectIsOpen = false;
@@ -82,8 +84,22 @@ void SaveUnderName(const std::string& fileName) {
     State().ProjectFileName = fileName;
     MakeFileExtensions();
     CopyFileOver(State().ProjectFileName, State().WorkFileName);
+    RememberProjectFile();
     ShowProjectCaption();
     State().ProjectChanged = false;
+}
+
+/// Asks before what another program wrote since is replaced. A No counts as a cancelled save: what
+/// was to be closed stays, and the work file keeps the data.
+bool MayReplaceProjectFile() {
+    if (!ProjectFileWasChanged()) return true;
+    const Answer answer = Ask("Project File Changed",
+                              BaseName(State().ProjectFileName) +
+                                  " was changed by another program since it was opened.  Do you "
+                                  "wish to replace it?",
+                              Buttons::YesNo);
+    if (answer != Answer::Yes) State().SaveCancelled = true;
+    return answer == Answer::Yes;
 }
 
 }  // namespace
@@ -163,6 +179,7 @@ void mnuFileNew_Click() {
     CopyAutoloadProject();
     SaveWorkFile();
     CopyFileOver(State().WorkFileName, State().ProjectFileName);
+    RememberProjectFile();
     State().ProjectIsOpen = true;
     State().ProjectChanged = false;
     ShowProjectCaption();
@@ -187,7 +204,9 @@ void mnuFileSave_Click() {
         mnuFileSaveAs_Click();
     } else {
         SaveWorkFile();
+        if (!MayReplaceProjectFile()) return NormalPointer();
         CopyFileOver(State().WorkFileName, State().ProjectFileName);
+        RememberProjectFile();
     }
     // ProjectChanged stays set: the question comes up on closing all the same.
     AddRecentFile();

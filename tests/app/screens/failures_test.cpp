@@ -1,0 +1,229 @@
+#include <cerrno>
+#include <fstream>
+
+#include "platform/files/safe_file.h"
+#include "platform/files/system_calls.h"
+#include "project/project_records.h"
+#include "running_program.h"
+
+namespace tendo {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What can go wrong around a save that is no fault of the program; the data must be safe each
+/// time.
+class Failures : public RunningProgram {
+  protected:
+    void SetUp() override {
+        RunningProgram::SetUp();
+        StartProgram();
+        MakeProject("Job.tdw");
+        Restart();
+        dialogs->files = {Place("Job.tdw")};
+        ActiveBarClick("ToolOpen");
+        dialogs->messages.clear();
+        saved = ReadWholeFile(Place("Job.tdw"));
+        ActiveBarClick("ToolCloseAllProjectWindows");  // its fields would be stored over a change
+        Change("Changed since");
+    }
+    void TearDown() override {
+        SystemCalls() = SystemCallTable();
+        RunningProgram::TearDown();
+    }
+
+    static void Change(const char* title) {
+        Project().GPDProjectFormat.Title = title;
+        State().ProjectChanged = true;
+    }
+    /// One box, with this in it.
+    void ExpectOneBox(const std::string& text) const {
+        ASSERT_EQ(dialogs->messages.size(), 1U);
+        EXPECT_NE(dialogs->messages[0].text.find(text), std::string::npos)
+            << dialogs->messages[0].text;
+    }
+    void ExpectUserFileAsItWas() const { EXPECT_EQ(ReadWholeFile(Place("Job.tdw")), saved); }
+    /// A save that works holds what the work file holds.
+    void ExpectTheNextSaveToWork() {
+        SystemCalls() = SystemCallTable();
+        dialogs->messages.clear();
+        ActiveBarClick("ToolSave");
+        EXPECT_TRUE(dialogs->messages.empty());
+        EXPECT_EQ(ReadWholeFile(Place("Job.tdw")), ReadWholeFile(Place("Job.tmp")));
+        EXPECT_NE(ReadWholeFile(Place("Job.tdw")), saved);
+    }
+    std::size_t FilesInProjects() const {
+        return static_cast<std::size_t>(
+            std::distance(fs::directory_iterator(directory + "Projects"), {}));
+    }
+
+    std::string saved;
+};
+
+TEST_F(Failures, AFullDiskIsCalledAFullDiskAndTheUserFileStays) {
+    const std::size_t files = FilesInProjects();
+    SystemCalls().write = [](int, const void*, size_t) -> ssize_t {
+        errno = ENOSPC;
+        return -1;
+    };
+    ActiveBarClick("ToolSave");
+    ExpectOneBox("the disk is full");
+    ExpectUserFileAsItWas();
+    EXPECT_EQ(FilesInProjects(), files);
+    EXPECT_TRUE(State().ProjectIsOpen);
+    EXPECT_TRUE(State().ProjectChanged);
+    ExpectTheNextSaveToWork();
+}
+
+TEST_F(Failures, ADiskThatFillsUpAfterTheWorkFileWasSavedKeepsTheDataThere) {
+    static int flushes;
+    flushes = 0;
+    SystemCalls().fsync = [](int file) {
+        // The work file's content and folder are the first two.
+        if (++flushes <= 2) return ::fsync(file);
+        errno = ENOSPC;
+        return -1;
+    };
+    ActiveBarClick("ToolSave");
+    ExpectOneBox("the disk is full");
+    ExpectUserFileAsItWas();
+    EXPECT_NE(ReadWholeFile(Place("Job.tmp")), saved);
+    ExpectTheNextSaveToWork();
+}
+
+TEST_F(Failures, AReadOnlyFolderIsToldAndNothingIsLost) {
+    SystemCalls().open = [](const char* path, int flags, mode_t mode) {
+        if ((flags & O_CREAT) == 0) return ::open(path, flags, mode);
+        errno = EACCES;
+        return -1;
+    };
+    ActiveBarClick("ToolSave");
+    ExpectOneBox("Cannot write");
+    ExpectUserFileAsItWas();
+    ExpectTheNextSaveToWork();
+}
+
+TEST_F(Failures, AReadOnlyFileIsNotReplaced) {
+    fs::permissions(Place("Job.tdw"), fs::perms::owner_read);
+    ActiveBarClick("ToolSave");
+    ExpectOneBox("the file is read-only");
+    ExpectUserFileAsItWas();
+    EXPECT_NE(ReadWholeFile(Place("Job.tmp")), saved);
+    fs::permissions(Place("Job.tdw"), fs::perms::owner_read | fs::perms::owner_write);
+    ExpectTheNextSaveToWork();
+}
+
+TEST_F(Failures, AFolderThatVanishedIsToldAndSaveAsSavesElsewhere) {
+    fs::create_directories(home / "Away");
+    dialogs->files = {directory + "Away/Trip.tdw"};
+    ActiveBarClick("ToolSaveAs");
+    Change("On the way");
+    fs::rename(home / "Away", home / "Elsewhere");
+    ActiveBarClick("ToolSave");
+    ExpectOneBox("Run-time error");
+    EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "On the way");
+    fs::rename(home / "Elsewhere", home / "Away");
+    dialogs->messages.clear();
+    ActiveBarClick("ToolSave");
+    EXPECT_TRUE(dialogs->messages.empty());
+}
+
+TEST_F(Failures, AnExitWhoseSaveFailsKeepsTheProgram) {
+    SystemCalls().fsync = [](int) {
+        errno = EIO;
+        return -1;
+    };
+    dialogs->answers = {Answer::Yes};
+    EXPECT_FALSE(QuitTendo());
+    EXPECT_NE(Form::Find("frmMDI"), nullptr);
+    EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "Changed since");
+    ExpectUserFileAsItWas();
+    ExpectTheNextSaveToWork();
+}
+
+TEST_F(Failures, AFileThatAnotherProgramChangedIsOnlyReplacedWhenItsUserAgrees) {
+    std::ofstream(Place("Job.tdw"), std::ios::app) << "other";
+    const std::string others = ReadWholeFile(Place("Job.tdw"));
+    dialogs->answers = {Answer::No};
+    ActiveBarClick("ToolSave");
+    ExpectOneBox(
+        "Job.tdw was changed by another program since it was opened.  Do you wish to "
+        "replace it?");
+    EXPECT_EQ(dialogs->messages[0].buttons, Buttons::YesNo);
+    EXPECT_EQ(ReadWholeFile(Place("Job.tdw")), others);
+    EXPECT_NE(ReadWholeFile(Place("Job.tmp")), saved);  // the data is in the work file
+    dialogs->messages.clear();
+    dialogs->answers = {Answer::Yes};
+    ActiveBarClick("ToolSave");
+    EXPECT_EQ(dialogs->messages.size(), 1U);
+    EXPECT_EQ(ReadWholeFile(Place("Job.tdw")), ReadWholeFile(Place("Job.tmp")));
+    dialogs->messages.clear();
+    ActiveBarClick("ToolSave");  // its own saves are no changes by another program
+    EXPECT_TRUE(dialogs->messages.empty());
+}
+
+TEST_F(Failures, ClosingKeepsTheWorkFileWhenTheUserLeavesTheOthersFileInPlace) {
+    std::ofstream(Place("Job.tdw"), std::ios::app) << "other";
+    dialogs->answers = {Answer::Yes, Answer::No};
+    ActiveBarClick("ToolClose");
+    EXPECT_TRUE(Exists("Projects/Job.tmp"));
+    dialogs->answers = {Answer::Yes, Answer::No};
+    EXPECT_FALSE(QuitTendo());
+    EXPECT_TRUE(Exists("Projects/Job.tmp"));
+    dialogs->answers = {Answer::Yes, Answer::No};
+    ActiveBarClick("ToolNew");
+    EXPECT_TRUE(Exists("Projects/Job.tmp"));
+    EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "Changed since");
+}
+
+TEST_F(Failures, AProjectFileThatWasDeletedIsWrittenAnew) {
+    fs::remove(Place("Job.tdw"));
+    ExpectTheNextSaveToWork();
+}
+
+TEST_F(Failures, ASaveThroughASymbolicLinkGoesToItsTarget) {
+    fs::create_directories(home / "Store");
+    fs::copy_file(Place("Job.tdw"), home / "Store" / "Real.tdw");
+    fs::create_symlink(home / "Store" / "Real.tdw", Place("Link.tdw"));
+    State().ProjectChanged = false;
+    dialogs->files = {Place("Link.tdw")};
+    ActiveBarClick("ToolOpen");
+    Change("Through the link");
+    ActiveBarClick("ToolSave");
+    EXPECT_TRUE(dialogs->messages.empty());
+    EXPECT_TRUE(fs::is_symlink(Place("Link.tdw")));
+    EXPECT_FALSE(fs::is_symlink(home / "Store" / "Real.tdw"));
+    EXPECT_EQ(Read("Store/Real.tdw"), ReadWholeFile(Place("Link.tmp")));
+    EXPECT_NE(Read("Store/Real.tdw"), saved);
+}
+
+TEST_F(Failures, AnAutosaveOnAFullDiskTellsAndTheWorkFileStays) {
+    Write("Tendo.ini", "[Options]\nAutoSave=1\nAutoSaveInterval=1\n");
+    const std::string before = ReadWholeFile(Place("Job.tmp"));
+    SystemCalls().write = [](int, const void*, size_t) -> ssize_t {
+        errno = ENOSPC;
+        return -1;
+    };
+    EXPECT_TRUE(TickTimer("tmrAutoSave"));
+    ExpectOneBox("the disk is full");
+    EXPECT_TRUE(ReadWholeFile(Place("Job.tmp")) == before);
+    ExpectTheNextSaveToWork();
+}
+
+TEST_F(Failures, AnOpenThatFailsLeavesTheOpenProjectWhole) {
+    dialogs->answers = {Answer::Cancel};
+    Write("Projects/Broken.tdw", "no database");
+    DropFiles({Place("Broken.tdw")});
+    EXPECT_TRUE(Saw("Project File Open Error"));
+    EXPECT_EQ(Read("Projects/Broken.tdw"), "no database");
+    EXPECT_FALSE(Exists("Projects/Broken.tmp"));
+    EXPECT_EQ(State().ProjectFileName, Place("Job.tdw"));
+    EXPECT_EQ(State().WorkFileName, Place("Job.tmp"));
+    EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "Changed since");
+    dialogs->answers = {Answer::Yes};
+    EXPECT_TRUE(QuitTendo());
+    EXPECT_NE(ReadWholeFile(Place("Job.tdw")), saved);
+}
+
+}  // namespace
+}  // namespace tendo
