@@ -71,10 +71,7 @@ constexpr Single singles[] = {
 void MakePlainFigure(TextField* field) {
     FitText(field, widestMoney);
     field->setMaximumWidth(field->minimumWidth());
-    field->setStyleSheet(
-        QString("QLineEdit { background: transparent; border-color: transparent; padding: 3px 1px "
-                "3px 2px; } QLineEdit[fresh=\"true\"] { background: %1; }")
-            .arg(Theme().fresh.name()));
+    SetStyleFlag(field, "plain", true);
 }
 
 }  // namespace
@@ -254,7 +251,11 @@ QWidget* frmSumModelData::MakeEarnings() {
     lblTotal_->setObjectName("lblTotal");
     lblTotal_->setFont(TotalFont());
     lblTotal_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    lblTotal_->setMinimumWidth(QFontMetrics(TotalFont()).horizontalAdvance(widestMoney) + 4);
+    // As far from the edge as the text of the figures above is from theirs.
+    constexpr int figureInset = 6;
+    lblTotal_->setContentsMargins(0, 0, figureInset, 0);
+    lblTotal_->setMinimumWidth(QFontMetrics(TotalFont()).horizontalAdvance(widestMoney) +
+                               figureInset + 4);
     row->addWidget(caption);
     row->addWidget(lblTotal_, 1);
     column->addSpacing(8);
@@ -262,7 +263,10 @@ QWidget* frmSumModelData::MakeEarnings() {
     column->addSpacing(8);
     auto* customer = new QCheckBox("C&ustomer's view", box);
     customer->setObjectName("chkHideInfo");
-    customer->setEnabled(false);
+    connect(customer, &QCheckBox::clicked, this, [this, customer] {
+        customer->setChecked(false);
+        chkHideInfo_Click();
+    });
     column->addWidget(customer);
     column->addStretch();
     return box;
