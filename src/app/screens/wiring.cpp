@@ -7,11 +7,14 @@
 #include "app/screens/frm_status.h"
 #include "app/screens/frm_tip.h"
 #include "app/screens/screen_table.h"
+#include "equipment/screens/frm_detail_model_data.h"
 #include "equipment/screens/frm_model_selection.h"
+#include "equipment/screens/frm_wh_info.h"
 #include "materials/material_catalogue.h"
 #include "platform/database/database_hooks.h"
 #include "platform/qt/dialogs.h"
 #include "pricing/screens/frm_sum_model_data.h"
+#include "pricing/screens/frm_sum_rpt_data.h"
 #include "project/program_state.h"
 #include "project/screens/frm_gpd.h"
 #include "reports/screens/frm_preview.h"
@@ -27,15 +30,14 @@ Form* Make() {
 void EnterScreens() {
     RegisterScreen("frmGPD", Make<frmGPD>);
     RegisterScreen("frmSumModelData", Make<frmSumModelData>);
+    RegisterScreen("frmSumRptData", Make<frmSumRptData>);
+    RegisterScreen("frmDetailModelData", Make<frmDetailModelData>);
+    RegisterScreen("frmMisModelData", Make<frmMisModelData>);
+    RegisterScreen("frmWHInfo", Make<frmWHInfo>);
     RegisterScreen("frmAbout", MakeAboutForm);
     RegisterScreen("frmTip", Make<frmTip>);
     RegisterScreen("frmStatus", Make<frmStatus>);
     RegisterHelp();
-}
-
-void RefillPriceScreen() {
-    if (auto* screen = qobject_cast<frmSumModelData*>(Form::Find("frmSumModelData")))
-        screen->Refill();
 }
 
 void WirePricing() {
@@ -45,8 +47,9 @@ void WirePricing() {
         ShowModelSelection(side == ModelSide::Cooling ? SelectionMode::Cooling
                                                       : SelectionMode::Heating);
     };
-    ModelDatabasesChanged() = RefillPriceScreen;
-    AfterModelSelection() = {RefillPriceScreen};
+    ModelDatabasesChanged() = RefillPriceScreens;
+    AfterModelSelection() = {RefillPriceScreens, [] { RefillSystemForm("frmDetailModelData"); },
+                             [] { RefillSystemForm("frmWHInfo"); }};
 }
 
 }  // namespace

@@ -188,6 +188,7 @@ void Form::closeEvent(QCloseEvent* event) {
 }
 
 void Form::KeepPlacement() {
+    if (place_ == Place::Child && workspace && !subWindow_) return;  // never shown: it has no place
     try {
         StorePlacement(subWindow_ ? static_cast<QWidget*>(subWindow_) : this, placementSection_);
     } catch (const RuntimeError&) {

@@ -5,10 +5,12 @@
 #include <QPushButton>
 #include <QScrollArea>
 
+#include "platform/files/settings_store.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/theme.h"
 #include "pricing/screens/price_help.h"
 #include "pricing/screens/system_card_button.h"
+#include "pricing/screens/view_switch.h"
 #include "pricing/system_models.h"
 #include "project/program_state.h"
 
@@ -141,6 +143,15 @@ void frmSumModelData::ChooseDatabase(TableField field) {
 void frmSumModelData::OpenScreen(const QString& name) {
     CommitFocusedField();
     if (PricingScreens().ShowScreen) PricingScreens().ShowScreen(name);
+}
+
+/// The customer's view takes this screen's place; this one stays loaded behind it.
+void frmSumModelData::chkHideInfo_Click() {
+    CommitFocusedField();
+    table_.GetSystemTendos();
+    Settings().SaveSetting("frmSumModelData", "chkHideInfo", "1");
+    OpenScreen("frmSumRptData");
+    if (Form* view = Form::Find("frmSumRptData")) ShowInPlaceOf(*this, *view);
 }
 
 void frmSumModelData::WantHelp(TableField field) {

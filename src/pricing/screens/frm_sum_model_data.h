@@ -65,6 +65,7 @@ class frmSumModelData : public Form {
     void ChooseDatabase(TableField field);
     void OpenScreen(const QString& name);
 
+    void chkHideInfo_Click();
     void btnNextSystem_Click();
     void btnPreviousSystem_Click();
 

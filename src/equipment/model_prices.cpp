@@ -1,0 +1,104 @@
+#include "equipment/model_prices.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+#include "platform/text/number_text.h"
+#include "pricing/relations.h"
+
+namespace tendo {
+namespace {
+
+using Info = ModelInfoRecord;
+
+constexpr SelectionMode Sides[] = {SelectionMode::Cooling, SelectionMode::Heating,
+                                   SelectionMode::WaterHeater};
+constexpr std::array<ModelPriceColumns, 3> ColumnsBySide = {
+    {{&Info::CLGModelDealerCost, &Info::CLGModelDealerOverride, &Info::CLGModelGrossMargin,
+      &Info::CLGModelPriceMarkup, &Info::CLGModelListDiscount, &Info::CLGSalePrice,
+      &Info::CLGListPrice},
+     {&Info::HTGModelDealerCost, &Info::HTGModelDealerOverride, &Info::HTGModelGrossMargin,
+      &Info::HTGModelPriceMarkup, &Info::HTGModelListDiscount, &Info::HTGSalePrice,
+      &Info::HTGListPrice},
+     {&Info::WHModelDealerCost, &Info::WHModelDealerOverride, &Info::WHModelGrossMargin,
+      &Info::WHModelPriceMarkup, &Info::WHModelListDiscount, &Info::WHSalePrice,
+      &Info::WHListPrice}}};
+
+/// The quantity's place in either records or constant ones.
+template <class Records>
+auto& QuantityIn(Records& records, SelectionMode side, int system) {
+    const auto slot = static_cast<std::size_t>(system);
+    if (side == SelectionMode::Cooling) return records.CLGModelData.at(slot).ModelQty;
+    if (side == SelectionMode::Heating) return records.HTGModelData.at(slot).ModelQty;
+    return records.WHModelData.at(slot).ModelQty;
+}
+
+/// A price times its quantity, added up over all models of the project.
+float SumWithQuantities(const ProjectRecords& records,
+                        float ModelInfoRecord::*ModelPriceColumns::*column) {
+    double sum = 0;
+    for (int system = 0; system < SystemCount; ++system) {
+        const ModelInfoRecord& info = records.ModelInfo[static_cast<std::size_t>(system)];
+        for (const SelectionMode side : Sides)
+            sum += static_cast<double>(info.*(PricesOf(side).*column)) *
+                   ModelQuantity(records, side, system);
+    }
+    return StoreSingle(sum);
+}
+
+}  // namespace
+
+const ModelPriceColumns& PricesOf(SelectionMode side) {
+    return ColumnsBySide[static_cast<std::size_t>(side)];
+}
+
+std::int16_t ModelQuantity(const ProjectRecords& records, SelectionMode side, int system) {
+    return QuantityIn(records, side, system);
+}
+
+void SetModelQuantity(ProjectRecords& records, SelectionMode side, int system,
+                      std::string_view text) {
+    constexpr float most = std::numeric_limits<std::int16_t>::max();
+    QuantityIn(records, side, system) =
+        static_cast<std::int16_t>(std::clamp(ValueOfText(text), 0.0F, most));
+    RebuildListBases(records);
+}
+
+void RebuildListBases(ProjectRecords& records) {
+    SystemTendosRecord& tendos = records.SystemTendos;
+    tendos.ModelLDPrice = SumWithQuantities(records, &ModelPriceColumns::listPrice);
+    tendos.TotalLDPrice =
+        StoreSingle(static_cast<double>(tendos.ModelLDPrice) + tendos.TaxMatLDPrice +
+                    tendos.NonTaxLDPrice + tendos.LaborLDPrice + tendos.TaxSalePrice);
+}
+
+void RebuildModelRow(ProjectRecords& records) {
+    SystemTendosRecord& tendos = records.SystemTendos;
+    tendos.ModelDealerCost = SumWithQuantities(records, &ModelPriceColumns::dealerCost);
+    tendos.ModelDealerOverride = SumWithQuantities(records, &ModelPriceColumns::dealerOverride);
+    double lists = 0;
+    for (const ModelInfoRecord& info : records.ModelInfo)
+        for (const SelectionMode side : Sides)
+            lists += static_cast<double>(info.*PricesOf(side).listPrice);
+    tendos.ModelSalePrice = tendos.ModelLDPrice = StoreSingle(lists);
+}
+
+void RecalcTax(ProjectRecords& records, float first, float second, float labor) {
+    SystemTendosRecord& tendos = records.SystemTendos;
+    double taxable = static_cast<double>(first) + second;
+    if (records.GPDProjectFormat.TaxLabor) taxable += labor;
+    tendos.TaxDealerCost = StoreSingle(taxable * static_cast<double>(tendos.TaxPercentage) / 100);
+}
+
+void DropWaterHeater(ProjectRecords& records, int system) {
+    const auto slot = static_cast<std::size_t>(system);
+    const ModelPriceColumns& prices = PricesOf(SelectionMode::WaterHeater);
+    for (const auto price :
+         {prices.dealerCost, prices.dealerOverride, prices.grossMargin, prices.priceMarkup,
+          prices.listDiscount, prices.salePrice, prices.listPrice})
+        records.ModelInfo.at(slot).*price = 0;
+    records.WHModelData.at(slot) = WHModelRecord{};
+}
+
+}  // namespace tendo

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "equipment/model_tabs.h"
+#include "project/project_records.h"
+
+namespace tendo {
+
+/// The seven prices of one side of a system, in dollars and percent.
+struct ModelPriceColumns {
+    float ModelInfoRecord::*dealerCost;
+    float ModelInfoRecord::*dealerOverride;
+    float ModelInfoRecord::*grossMargin;
+    float ModelInfoRecord::*priceMarkup;
+    float ModelInfoRecord::*listDiscount;
+    float ModelInfoRecord::*salePrice;
+    float ModelInfoRecord::*listPrice;
+};
+const ModelPriceColumns& PricesOf(SelectionMode side);
+
+/// How many of the side's model the system (0 to 4) has.
+std::int16_t ModelQuantity(const ProjectRecords& records, SelectionMode side, int system);
+/// Takes a quantity as typed and rebuilds the list bases; more than 32,767 counts as that.
+void SetModelQuantity(ProjectRecords& records, SelectionMode side, int system,
+                      std::string_view text);
+
+/// The list base of the models: list price times quantity over all five systems; then the total's.
+void RebuildListBases(ProjectRecords& records);
+
+/// Rebuilds the four columns of the Model row from the models of all five systems. Costs and
+/// overrides count with their quantities. The sale price becomes the sum of the list prices,
+/// without quantity: meant so, prices typed for single models don't reach the project's table.
+void RebuildModelRow(ProjectRecords& records);
+
+/// The tax as a cost: the project's percentage of two amounts and, where labor is taxed, a third
+/// one, kept with all its decimals.
+void RecalcTax(ProjectRecords& records, float first, float second, float labor);
+
+/// Drops a system's water heater: its seven prices go to 0, all its fields go blank or 0.
+void DropWaterHeater(ProjectRecords& records, int system);
+
+}  // namespace tendo

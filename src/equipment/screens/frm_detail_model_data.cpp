@@ -1,0 +1,124 @@
+#include "equipment/screens/frm_detail_model_data.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "equipment/model_prices.h"
+#include "equipment/screens/model_price_grid.h"
+#include "equipment/screens/operating_cost_grid.h"
+#include "platform/qt/fields.h"
+#include "pricing/screens/frm_sum_rpt_data.h"
+#include "project/program_state.h"
+
+namespace tendo {
+namespace {
+
+QGridLayout* MakeCardGrid(QFrame* card, const char* heading, const char* side) {
+    card->setProperty("card", true);
+    card->setProperty("side", side);
+    auto* grid = new QGridLayout(card);
+    grid->setContentsMargins(14, 10, 14, 12);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(6);
+    grid->setColumnStretch(1, 1);
+    auto* title = new QLabel(heading, card);
+    title->setStyleSheet("font-weight: bold; border: 0");
+    grid->addWidget(title, 0, 0, 1, 2);
+    return grid;
+}
+
+}  // namespace
+
+frmDetailModelData::frmDetailModelData()
+    : SystemForm("frmDetailModelData", "", Place::Child, "frmDetailModelData") {
+    QVBoxLayout* column = MakeColumn();
+    auto* cards = new QHBoxLayout;
+    cards->setSpacing(12);
+    cards->addWidget(MakeModelCard("Cooling", "cooling", CoolingDetailFields()), 1);
+    cards->addWidget(MakeModelCard("Heating", "heating", HeatingDetailFields()), 1);
+    column->addLayout(cards);
+    column->addWidget(MakeHeading("Prices", Content()));
+    prices_ = new ModelPriceGrid(Content());
+    column->addWidget(prices_);
+    column->addWidget(MakeHeading("Operating costs in dollars a year", Content()));
+    costs_ = new OperatingCostGrid({SelectionMode::Cooling, SelectionMode::Heating}, Content());
+    column->addWidget(costs_);
+    column->addWidget(MakeButtons());
+    column->addStretch();
+    connect(&fields_, &ModelFieldLines::Taken, this,
+            [this] { prices_->Show(State().SystemNumber); });
+    Refill();
+}
+
+QWidget* frmDetailModelData::MakeModelCard(const char* heading, const char* side,
+                                           std::span<const ModelField> fields) {
+    auto* card = new QFrame(Content());
+    QGridLayout* grid = MakeCardGrid(card, heading, side);
+    fields_.AddColumn(fields, grid, card);
+    grid->setRowStretch(grid->rowCount(), 1);
+    return card;
+}
+
+QWidget* frmDetailModelData::MakeButtons() {
+    auto* box = new QWidget(Content());
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* button = new QPushButton("&Miscellaneous model data…", box);
+    button->setObjectName("btnMisModelData");
+    connect(button, &QPushButton::clicked, this, [] { ShowMisModelData(); });
+    row->addWidget(button);
+    row->addStretch();
+    return box;
+}
+
+void frmDetailModelData::Refill() {
+    const int system = State().SystemNumber;
+    setWindowTitle("Detailed Model Data for System " + QString::number(system + 1));
+    fields_.Show(system);
+    prices_->Show(system);
+    costs_->Show(system);
+}
+
+void frmDetailModelData::FormUnload() {
+    RebuildModelRow(Project());
+    State().ProjectChanged = true;
+    RefillPriceScreens();
+}
+
+frmMisModelData::frmMisModelData()
+    : SystemForm("frmMisModelData", "Miscellaneous Model Data for System Number:", Place::Child,
+                 "frmMisModelData") {
+    QVBoxLayout* column = MakeColumn();
+    system_ = MakeHeading("", Content());
+    column->addWidget(system_);
+    auto* cards = new QHBoxLayout;
+    cards->setSpacing(12);
+    cards->addWidget(MakeModelCard("Cooling", "cooling", CoolingMiscFields()), 1);
+    cards->addWidget(MakeModelCard("Heating", "heating", HeatingMiscFields()), 1);
+    column->addLayout(cards);
+    column->addStretch();
+    Refill();
+}
+
+QWidget* frmMisModelData::MakeModelCard(const char* heading, const char* side,
+                                        std::span<const ModelField> fields) {
+    auto* card = new QFrame(Content());
+    QGridLayout* grid = MakeCardGrid(card, heading, side);
+    fields_.AddColumn(fields, grid, card);
+    grid->setRowStretch(grid->rowCount(), 1);
+    return card;
+}
+
+void frmMisModelData::Refill() {
+    system_->setText("System " + QString::number(State().SystemNumber + 1));
+    fields_.Show(State().SystemNumber);
+}
+
+void ShowMisModelData() {
+    Form* screen = Form::Find("frmMisModelData");
+    if (!screen) screen = new frmMisModelData;
+    screen->ShowForm();
+}
+
+}  // namespace tendo

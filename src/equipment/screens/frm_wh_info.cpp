@@ -1,0 +1,95 @@
+#include "equipment/screens/frm_wh_info.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "equipment/model_prices.h"
+#include "equipment/screens/frm_model_selection.h"
+#include "equipment/screens/operating_cost_grid.h"
+#include "platform/qt/fields.h"
+#include "project/program_state.h"
+
+namespace tendo {
+namespace {
+
+/// Fields that stand in the left half of the card; the others stand right of them.
+constexpr int leftFields = 8;
+
+WHModelRecord& Heater() {
+    return Project().WHModelData.at(static_cast<std::size_t>(State().SystemNumber));
+}
+
+}  // namespace
+
+frmWHInfo::frmWHInfo() : SystemForm("frmWHInfo", "", Place::Child, "frmWHInfo") {
+    QVBoxLayout* column = MakeColumn();
+    column->addWidget(MakeCard());
+    column->addWidget(MakeHeading("Operating costs in dollars a year", Content()));
+    costs_ = new OperatingCostGrid({SelectionMode::WaterHeater}, Content());
+    column->addWidget(costs_);
+    column->addWidget(MakeButtons());
+    column->addStretch();
+    Refill();
+}
+
+QWidget* frmWHInfo::MakeCard() {
+    auto* card = new QFrame(Content());
+    card->setProperty("card", true);
+    card->setProperty("side", "water");
+    auto* grid = new QGridLayout(card);
+    grid->setContentsMargins(14, 10, 14, 12);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(6);
+    int at = 0;
+    for (const ModelField& field : WaterHeaterFields()) {
+        const bool left = at < leftFields;
+        fields_.Add(field, grid, left ? at : at - leftFields, left ? 0 : 2, 1, card);
+        ++at;
+    }
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(3, 1);
+    return card;
+}
+
+QWidget* frmWHInfo::MakeButtons() {
+    auto* box = new QWidget(Content());
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(16);
+    auto* select = new QPushButton("&Select water heater…", box);
+    select->setObjectName("btnSelectWHModel");
+    connect(select, &QPushButton::clicked, this, &frmWHInfo::btnSelectWHModel_Click);
+    chkWHProvidesHeat_ = new QCheckBox("&Used for both Hot Water and Space Heat", box);
+    chkWHProvidesHeat_->setObjectName("chkWHProvidesHeat");
+    connect(chkWHProvidesHeat_, &QCheckBox::clicked, this, &frmWHInfo::chkWHProvidesHeat_Click);
+    row->addWidget(select);
+    row->addWidget(chkWHProvidesHeat_);
+    row->addStretch();
+    return box;
+}
+
+void frmWHInfo::SetWHModelInfo() {
+    const int system = State().SystemNumber;
+    setWindowTitle("Water Heater Information for System " + QString::number(system + 1));
+    fields_.Show(system);
+    costs_->Show(system);
+    chkWHProvidesHeat_->setChecked(Heater().WHIsHydroAirComponent == 1);
+    const SystemTendosRecord& tendos = Project().SystemTendos;
+    RecalcTax(Project(), tendos.ModelSalePrice, tendos.TaxMatSalePrice, tendos.LaborSalePrice);
+}
+
+/// The mark changes a line of the proposal and no price.
+void frmWHInfo::chkWHProvidesHeat_Click() {
+    Heater().WHIsHydroAirComponent = chkWHProvidesHeat_->isChecked() ? 1 : 0;
+    State().ProjectChanged = true;
+}
+
+void frmWHInfo::btnSelectWHModel_Click() {
+    CommitFocusedField();
+    ShowModelSelection(SelectionMode::WaterHeater);
+    Refill();
+}
+
+}  // namespace tendo

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "equipment/screens/model_field_lines.h"
+#include "equipment/screens/system_form.h"
+
+class QCheckBox;
+
+namespace tendo {
+
+class OperatingCostGrid;
+
+/// Water Heater Information: everything about the current system's water heater.
+class frmWHInfo : public SystemForm {
+    Q_OBJECT
+  public:
+    frmWHInfo();
+    void Refill() override { SetWHModelInfo(); }
+
+  private:
+    QWidget* MakeCard();
+    QWidget* MakeButtons();
+    void SetWHModelInfo();
+    void chkWHProvidesHeat_Click();
+    void btnSelectWHModel_Click();
+
+    ModelFieldLines fields_{this};
+    OperatingCostGrid* costs_ = nullptr;
+    QCheckBox* chkWHProvidesHeat_ = nullptr;
+};
+
+}  // namespace tendo

@@ -1,0 +1,224 @@
+#include "pricing/screens/frm_sum_rpt_data.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <iterator>
+
+#include "platform/files/settings_store.h"
+#include "platform/qt/fields.h"
+#include "platform/text/number_text.h"
+#include "pricing/screens/frm_sum_model_data.h"
+#include "pricing/screens/view_switch.h"
+#include "pricing/system_models.h"
+#include "project/program_state.h"
+
+namespace tendo {
+namespace {
+
+constexpr std::string_view percentagePicture = "##0.00";
+
+struct PriceRow {
+    TableField field;
+    const char* label;
+};
+constexpr PriceRow priceRows[] = {
+    {TableField::ModelSalePrice, "&Models:"},
+    {TableField::TaxMatSalePrice, "Taxa&ble materials:"},
+    {TableField::NonTaxSalePrice, "&Non-taxable materials:"},
+    {TableField::LaborSalePrice, "&Labor:"},
+    {TableField::TaxPercentage, "Tax &percentage:"},
+    {TableField::TaxSalePrice, "Tax:"},
+    {TableField::TotalSalePrice, "T&otal:"},
+};
+
+constexpr const char* modelLabels[] = {"Database", "Model",    "Quantity",  "Description",
+                                       "Type",     "Capacity", "Efficiency"};
+constexpr const char* frameName = "fraModelInfo";
+
+/// The working screen, loaded when it isn't.
+frmSumModelData& WorkingScreen() {
+    auto* screen = qobject_cast<frmSumModelData*>(Form::Find("frmSumModelData"));
+    return screen ? *screen : *new frmSumModelData;
+}
+
+bool IsMoney(TableField field) {
+    const FieldKind kind = Describe(field).kind;
+    return kind == FieldKind::SalePrice || kind == FieldKind::TotalSalePrice;
+}
+
+}  // namespace
+
+frmSumRptData::frmSumRptData()
+    : Form("frmSumRptData", "Summary Report Data", Place::Child, "frmSumRptData") {
+    WorkingScreen();
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 16, 16, 16);
+    column->setSpacing(14);
+    column->addWidget(MakePrices());
+    column->addWidget(MakeModels());
+    column->addStretch();
+    SetSystemTendos();
+}
+
+TextField* frmSumRptData::Add(TableField field, const char* spoken, QWidget* parent) {
+    const FieldKind kind = Describe(field).kind;
+    const bool text =
+        kind == FieldKind::ModelDB || kind == FieldKind::ModelNum || kind == FieldKind::ModelText;
+    const EntryKind entry = TakesNoInput(field)           ? EntryKind::Figure
+                            : text                        ? EntryKind::Text
+                            : kind == FieldKind::ModelQty ? EntryKind::Count
+                                                          : EntryKind::Money;
+    auto* line = new TextField(
+        FieldSpec{.name = Describe(field).name, .label = spoken, .kind = entry}, parent);
+    line->KeyFilter = [field](QChar key, const QString& rest) {
+        return KeyAllowed(field, key.unicode(), rest.toStdString());
+    };
+    connect(line, &TextField::Committed, this, [this, field] { Commit(field); });
+    fields_[field] = line;
+    return line;
+}
+
+QWidget* frmSumRptData::MakePrices() {
+    auto* box = new QWidget(this);
+    auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(16);
+    grid->setVerticalSpacing(6);
+    grid->addWidget(MakeHeading("Sale prices", box), 0, 0, 1, 2);
+    int at = 0;
+    for (const PriceRow& row : priceRows) {
+        auto* label = new QLabel(row.label, box);
+        TextField* line = Add(row.field, row.label, box);
+        line->setProperty("strong", row.field == TableField::TotalSalePrice);
+        label->setBuddy(line);
+        if (row.field == TableField::LaborSalePrice) lblLabor_ = label;
+        grid->addWidget(label, ++at, 0);
+        grid->addWidget(line, at, 1);
+    }
+    auto* hide = new QCheckBox("C&ustomer's view", box);
+    hide->setObjectName("chkHideInfo");
+    hide->setChecked(true);
+    connect(hide, &QCheckBox::clicked, this, &frmSumRptData::chkHideInfo_Click);
+    grid->addWidget(hide, 1, 2);
+    grid->setColumnMinimumWidth(1, 150);
+    grid->setColumnStretch(2, 1);
+    return box;
+}
+
+QWidget* frmSumRptData::MakeModels() {
+    auto* box = new QWidget(this);
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(8);
+    auto* head = new QHBoxLayout;
+    fraModelInfo_ = MakeHeading("", box);
+    fraModelInfo_->setObjectName(frameName);
+    head->addWidget(fraModelInfo_);
+    head->addStretch();
+    const auto button = [&](const char* name, const char* caption, bool next) {
+        auto* made = new QPushButton(caption, box);
+        made->setObjectName(name);
+        connect(made, &QPushButton::clicked, this, [this, next] { Move(next); });
+        head->addWidget(made);
+    };
+    button("btnPreviousSystem", "‹ Pre&vious system", false);
+    button("btnNextSystem", "Next s&ystem ›", true);
+    column->addLayout(head);
+    auto* cards = new QHBoxLayout;
+    cards->setSpacing(12);
+    cards->addWidget(MakeModelCard("Cooling", "cooling", TableField::CLGDB), 1);
+    cards->addWidget(MakeModelCard("Heating", "heating", TableField::HTGDatabase), 1);
+    column->addLayout(cards);
+    return box;
+}
+
+QWidget* frmSumRptData::MakeModelCard(const char* heading, const char* side, TableField first) {
+    auto* card = new QFrame(this);
+    card->setProperty("card", true);
+    card->setProperty("side", side);
+    auto* grid = new QGridLayout(card);
+    grid->setContentsMargins(14, 10, 14, 12);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(6);
+    auto* title = new QLabel(heading, card);
+    title->setStyleSheet("font-weight: bold; border: 0");
+    grid->addWidget(title, 0, 0, 1, 2);
+    for (int i = 0; i < static_cast<int>(std::size(modelLabels)); ++i) {
+        TextField* line =
+            Add(static_cast<TableField>(static_cast<int>(first) + i), modelLabels[i], card);
+        grid->addWidget(MakeLabel(modelLabels[i], line, card), i + 1, 0);
+        grid->addWidget(line, i + 1, 1);
+    }
+    return card;
+}
+
+void frmSumRptData::Show(TableField field, const std::string& text) {
+    fields_.at(field)->ShowText(QString::fromStdString(text));
+}
+
+void frmSumRptData::SetSystemTendos() {
+    const SystemTendosRecord& tendos = Project().SystemTendos;
+    for (const PriceRow& row : priceRows) {
+        const float value = tendos.*Describe(row.field).column;
+        const bool percentage = row.field == TableField::TaxPercentage;
+        Show(row.field, FormatNumber(value, percentage ? percentagePicture : MoneyPicture));
+    }
+    const SystemModelTexts sides[] = {CoolingTexts(Project(), State().SystemNumber),
+                                      HeatingTexts(Project(), State().SystemNumber)};
+    constexpr auto count = static_cast<int>(std::size(ModelTextOrder));
+    for (int i = 0; i < 2 * count; ++i)
+        Show(static_cast<TableField>(static_cast<int>(TableField::CLGDB) + i),
+             sides[i / count].*ModelTextOrder[i % count]);
+    fraModelInfo_->setText(QString::fromStdString(SystemCaption(State().SystemNumber)));
+    lblLabor_->setText(QString::fromStdString(LaborLabel(Project())));
+}
+
+/// The arithmetic is the working screen's: the text goes there and its field is left there.
+void frmSumRptData::Commit(TableField field) {
+    std::string text = fields_.at(field)->text().toStdString();
+    if (IsMoney(field)) text = FormatNumber(ValueOfText(text), MoneyPicture);
+    if (field == TableField::TaxPercentage)
+        text = FormatNumber(ValueOfText(text), percentagePicture);
+    Show(field, text);
+    PriceTable& table = WorkingScreen().Table();
+    table.SetText(field, text);
+    table.Commit(field);
+    table.GetSystemTendos();
+    SetSystemTendos();
+}
+
+void frmSumRptData::Move(bool next) {
+    CommitFocusedField();
+    PriceTable& table = WorkingScreen().Table();
+    if (next)
+        table.NextSystem();
+    else
+        table.PreviousSystem();
+    SetSystemTendos();
+}
+
+void frmSumRptData::chkHideInfo_Click() {
+    CommitFocusedField();
+    Settings().SaveSetting("frmSumModelData", "chkHideInfo", "0");
+    frmSumModelData& screen = WorkingScreen();
+    screen.Table().GetSystemTendos();
+    ShowInPlaceOf(*this, screen);
+    Unload();
+}
+
+/// The working screen isn't kept behind a view that has closed.
+void frmSumRptData::FormUnload() {
+    Form* screen = Form::Find("frmSumModelData");
+    if (screen && !screen->isVisible()) screen->Unload();
+}
+
+void RefillPriceScreens() {
+    if (auto* screen = qobject_cast<frmSumModelData*>(Form::Find("frmSumModelData")))
+        screen->Refill();
+    if (auto* view = qobject_cast<frmSumRptData*>(Form::Find("frmSumRptData")))
+        view->SetSystemTendos();
+}
+
+}  // namespace tendo

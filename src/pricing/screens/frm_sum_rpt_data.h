@@ -1,0 +1,46 @@
+#pragma once
+
+#include <map>
+
+#include "platform/qt/form.h"
+#include "pricing/price_fields.h"
+
+class QGridLayout;
+class QLabel;
+
+namespace tendo {
+
+class PriceTable;
+class TextField;
+
+/// The customer's view of the price table: sale prices and the models, no costs. Every edit goes to
+/// the working screen, which is loaded behind it, and runs there.
+class frmSumRptData : public Form {
+    Q_OBJECT
+  public:
+    frmSumRptData();
+    /// Fills the fields from the records.
+    void SetSystemTendos();
+
+  protected:
+    void FormUnload() override;
+
+  private:
+    QWidget* MakePrices();
+    QWidget* MakeModels();
+    QWidget* MakeModelCard(const char* heading, const char* side, TableField first);
+    TextField* Add(TableField field, const char* spoken, QWidget* parent);
+    void Commit(TableField field);
+    void Show(TableField field, const std::string& text);
+    void Move(bool next);
+    void chkHideInfo_Click();
+
+    std::map<TableField, TextField*> fields_;
+    QLabel* lblLabor_ = nullptr;
+    QLabel* fraModelInfo_ = nullptr;
+};
+
+/// Refills both price screens, each if it is loaded, after something else changed the records.
+void RefillPriceScreens();
+
+}  // namespace tendo
