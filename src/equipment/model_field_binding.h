@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "equipment/model_fields.h"
+#include "equipment/model_field.h"
 #include "equipment/model_prices.h"
 #include "platform/text/number_text.h"
 #include "pricing/system_models.h"

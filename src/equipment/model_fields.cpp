@@ -29,13 +29,6 @@ constexpr const char* ExchangerWarranties[] = {"20 Year", "Lifetime"};
 
 }  // namespace
 
-bool CommitModelField(const ModelField& field, ProjectRecords& records, int system,
-                      std::string_view text) {
-    if (text == field.read(records, system)) return false;
-    field.write(records, system, text);
-    return true;
-}
-
 std::span<const ModelField> CoolingDetailFields() {
     static const ModelField fields[] = {
         Number<clg, DropCoolingModel>("txtCLGModelNum", "Model"),
