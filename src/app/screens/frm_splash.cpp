@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QtEndian>
+#include <utility>
 
 #include "app/screens/pointer.h"
 #include "platform/qt/icons.h"
@@ -106,7 +107,9 @@ void frmSplash::EndWait() {
     if (!waiting_) return;
     waiting_ = false;
     tmrLetUserSeeLogo_->stop();
-    endOfWait_();
+    // The main window unloads this screen while it loads, so nothing of it may be needed by then.
+    const auto endOfWait = std::move(endOfWait_);
+    endOfWait();
 }
 
 void frmSplash::keyPressEvent(QKeyEvent*) {

@@ -1,5 +1,4 @@
 #include <QAction>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -161,26 +160,6 @@ TEST_F(MainWindow, AToolTakenOffTheToolbarStaysOff) {
     EXPECT_TRUE(onToolbar("ToolNew"));
     Restart();
     EXPECT_FALSE(onToolbar("ToolCalculator"));
-}
-
-TEST_F(MainWindow, ACommandFoundByAPartOfItsNameRunsOnce) {
-    Form::Find("frmTip")->Unload();
-    QApplication::processEvents();
-    auto* box = Form::Find("frmMDI")->findChild<QLineEdit*>("txtSearchCommands");
-    box->setFocus();
-    for (const QChar letter : QString("home")) {
-        QKeyEvent key(QEvent::KeyPress, letter.toUpper().unicode(), Qt::NoModifier, letter);
-        QApplication::sendEvent(box, &key);
-    }
-    QApplication::processEvents();
-    for (const int code : {Qt::Key_Down, Qt::Key_Return}) {
-        QWidget* popup = QApplication::activePopupWidget();
-        QKeyEvent key(QEvent::KeyPress, code, Qt::NoModifier);
-        QApplication::sendEvent(popup ? popup : box, &key);
-    }
-    QApplication::processEvents();
-    EXPECT_EQ(opened.size(), 1U);
-    EXPECT_EQ(box->text(), "");
 }
 
 TEST_F(MainWindow, TheStatusBarTellsFieldAndFiles) {
