@@ -60,8 +60,9 @@ void ModelPriceLine::Show(int system) {
 
 void ModelPriceLine::ShowPrices() {
     const int quantity = ModelQuantity(records_, side_, system_);
-    for (const FieldKind column :
-         {FieldKind::DealerCost, FieldKind::DealerOverride, FieldKind::SalePrice}) {
+    constexpr std::array shownColumns = {FieldKind::DealerCost, FieldKind::DealerOverride,
+                                         FieldKind::SalePrice};
+    for (const FieldKind column : shownColumns) {
         const double times = ShowsQuantity(column) ? quantity : 1;
         Write(column, FormatNumber(times * static_cast<double>(Price(column)), MoneyPicture));
     }
