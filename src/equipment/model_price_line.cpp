@@ -54,8 +54,8 @@ void ModelPriceLine::Show(int system) {
     ShowPrices();
     // Told from the prices, for the percentages of a file may be stale.
     const std::array<float, 3> percentages = Percentages();
-    for (std::size_t i = 0; i < percentages.size(); ++i)
-        Write(PercentageColumns[i], FormatNumber(percentages[i], PercentPicture));
+    for (std::size_t i = 0; i < std::size(PercentageColumns); ++i)
+        Write(PercentageColumns[i], FormatNumber(percentages.at(i), PercentPicture));
 }
 
 void ModelPriceLine::ShowPrices() {
