@@ -13,6 +13,7 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextFrame>
+#include <QTextTable>
 #include <QToolButton>
 #include <QVBoxLayout>
 

@@ -1,5 +1,6 @@
 #include "app/screens/workspace.h"
 
+#include <QMdiSubWindow>
 #include <QPainter>
 
 #include "platform/files/ini_file_handler.h"
