@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "equipment/model_database.h"
+#include "pricing/model_price_columns.h"
 
 namespace tendo {
 namespace {
@@ -144,43 +145,20 @@ WH ReadWaterHeater(int tab, const Recordset& row) {
     return model;
 }
 
-/// The prices of one side of a system.
-struct ModelPrices {
-    float ModelInfoRecord::*dealerCost;
-    float ModelInfoRecord::*dealerOverride;
-    float ModelInfoRecord::*grossMargin;
-    float ModelInfoRecord::*priceMarkup;
-    float ModelInfoRecord::*listDiscount;
-    float ModelInfoRecord::*salePrice;
-    float ModelInfoRecord::*listPrice;
-};
-using Info = ModelInfoRecord;
-constexpr std::array<ModelPrices, 3> PricesByMode = {
-    {{&Info::CLGModelDealerCost, &Info::CLGModelDealerOverride, &Info::CLGModelGrossMargin,
-      &Info::CLGModelPriceMarkup, &Info::CLGModelListDiscount, &Info::CLGSalePrice,
-      &Info::CLGListPrice},
-     {&Info::HTGModelDealerCost, &Info::HTGModelDealerOverride, &Info::HTGModelGrossMargin,
-      &Info::HTGModelPriceMarkup, &Info::HTGModelListDiscount, &Info::HTGSalePrice,
-      &Info::HTGListPrice},
-     {&Info::WHModelDealerCost, &Info::WHModelDealerOverride, &Info::WHModelGrossMargin,
-      &Info::WHModelPriceMarkup, &Info::WHModelListDiscount, &Info::WHSalePrice,
-      &Info::WHListPrice}}};
-
-void TakeOutOldPrices(SelectionMode mode, const ModelPrices& prices, SystemTendosRecord& table,
-                      ModelInfoRecord& info) {
+void TakeOutOldPrices(SelectionMode mode, SystemTendosRecord& table, ModelInfoRecord& info) {
+    const ModelPriceColumns& prices = PricesOf(mode);
     table.ModelDealerCost -= info.*prices.dealerCost;
     table.ModelDealerOverride -= info.*prices.dealerOverride;
     table.ModelSalePrice -= info.*prices.salePrice;
     // The sale price comes off twice on purpose, and for cooling models only.
     if (mode == SelectionMode::Cooling)
         table.ModelLDPrice = table.ModelSalePrice - info.*prices.salePrice;
-    for (auto field : {prices.dealerCost, prices.dealerOverride, prices.grossMargin,
-                       prices.priceMarkup, prices.listDiscount, prices.salePrice, prices.listPrice})
-        info.*field = 0;
+    ClearModelPrices(info, mode);
 }
 
-void PutInNewPrices(const ModelPrices& prices, const ChosenModel& model, SystemTendosRecord& table,
+void PutInNewPrices(SelectionMode mode, const ChosenModel& model, SystemTendosRecord& table,
                     ModelInfoRecord& info) {
+    const ModelPriceColumns& prices = PricesOf(mode);
     info.*prices.dealerCost = model.dealerCost;
     info.*prices.dealerOverride = model.dealerCost;
     info.*prices.salePrice = model.listPrice;
@@ -213,9 +191,8 @@ ChosenModel ReadChosenModel(SelectionMode mode, int tab, const Recordset& row) {
 void ApplyChosenModel(SelectionMode mode, const ChosenModel& model, ProjectRecords& records,
                       int system) {
     const auto slot = static_cast<std::size_t>(system);
-    const ModelPrices& prices = PricesByMode[static_cast<std::size_t>(mode)];
-    TakeOutOldPrices(mode, prices, records.SystemTendos, records.ModelInfo.at(slot));
-    PutInNewPrices(prices, model, records.SystemTendos, records.ModelInfo.at(slot));
+    TakeOutOldPrices(mode, records.SystemTendos, records.ModelInfo.at(slot));
+    PutInNewPrices(mode, model, records.SystemTendos, records.ModelInfo.at(slot));
     if (mode == SelectionMode::Cooling)
         StoreModel(model.cooling, model, records.CLGModelData.at(slot));
     if (mode == SelectionMode::Heating)

@@ -72,13 +72,13 @@ ModelField Memo(const char* name, const char* label) {
 }
 
 /// The model's number; an emptied one drops the model.
-template <auto Models, void (*Drop)(ProjectRecords&, int)>
+template <auto Models, ModelSide Side>
 ModelField Number(const char* name, const char* label) {
     using Record = std::remove_reference_t<decltype((std::declval<ProjectRecords&>().*Models)[0])>;
     ModelField field = Bind<Models, &Record::ModelNum>(name, label);
     field.kind = ModelFieldKind::ModelNum;
     field.write = [](ProjectRecords& records, int system, std::string_view text) {
-        if (Trimmed(text).empty()) return Drop(records, system);
+        if (Trimmed(text).empty()) return DropModel(records, Side, system);
         (records.*Models).at(static_cast<std::size_t>(system)).ModelNum = Trimmed(text);
     };
     return field;

@@ -31,7 +31,7 @@ constexpr const char* ExchangerWarranties[] = {"20 Year", "Lifetime"};
 
 std::span<const ModelField> CoolingDetailFields() {
     static const ModelField fields[] = {
-        Number<clg, DropCoolingModel>("txtCLGModelNum", "Model"),
+        Number<clg, ModelSide::Cooling>("txtCLGModelNum", "Model"),
         Quantity<SelectionMode::Cooling>("txtCLGModelQty", "Quantity"),
         Bind<clg, &CLG::ModelDesc>("txtCLGModelDesc", "Description"),
         Bind<clg, &CLG::ModelType>("txtCLGModelType", "Type"),
@@ -46,7 +46,7 @@ std::span<const ModelField> CoolingDetailFields() {
 
 std::span<const ModelField> HeatingDetailFields() {
     static const ModelField fields[] = {
-        Number<htg, DropHeatingModel>("txtHTGModelNum", "Model"),
+        Number<htg, ModelSide::Heating>("txtHTGModelNum", "Model"),
         Quantity<SelectionMode::Heating>("txtHTGModelQty", "Quantity"),
         Bind<htg, &HTG::ModelDesc>("txtHTGModelDesc", "Description"),
         Bind<htg, &HTG::ModelType>("txtHTGModelType", "Type"),

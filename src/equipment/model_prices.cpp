@@ -10,20 +10,8 @@
 namespace tendo {
 namespace {
 
-using Info = ModelInfoRecord;
-
 constexpr SelectionMode Sides[] = {SelectionMode::Cooling, SelectionMode::Heating,
                                    SelectionMode::WaterHeater};
-constexpr std::array<ModelPriceColumns, 3> ColumnsBySide = {
-    {{&Info::CLGModelDealerCost, &Info::CLGModelDealerOverride, &Info::CLGModelGrossMargin,
-      &Info::CLGModelPriceMarkup, &Info::CLGModelListDiscount, &Info::CLGSalePrice,
-      &Info::CLGListPrice},
-     {&Info::HTGModelDealerCost, &Info::HTGModelDealerOverride, &Info::HTGModelGrossMargin,
-      &Info::HTGModelPriceMarkup, &Info::HTGModelListDiscount, &Info::HTGSalePrice,
-      &Info::HTGListPrice},
-     {&Info::WHModelDealerCost, &Info::WHModelDealerOverride, &Info::WHModelGrossMargin,
-      &Info::WHModelPriceMarkup, &Info::WHModelListDiscount, &Info::WHSalePrice,
-      &Info::WHListPrice}}};
 
 /// The quantity's place in either records or constant ones.
 template <class Records>
@@ -36,7 +24,7 @@ auto& QuantityIn(Records& records, SelectionMode side, int system) {
 
 /// A price times its quantity, added up over all models of the project.
 float SumWithQuantities(const ProjectRecords& records,
-                        float ModelInfoRecord::*ModelPriceColumns::*column) {
+                        ModelPriceColumn ModelPriceColumns::*column) {
     double sum = 0;
     for (int system = 0; system < SystemCount; ++system) {
         const ModelInfoRecord& info = records.ModelInfo[static_cast<std::size_t>(system)];
@@ -48,10 +36,6 @@ float SumWithQuantities(const ProjectRecords& records,
 }
 
 }  // namespace
-
-const ModelPriceColumns& PricesOf(SelectionMode side) {
-    return ColumnsBySide[static_cast<std::size_t>(side)];
-}
 
 std::int16_t ModelQuantity(const ProjectRecords& records, SelectionMode side, int system) {
     return QuantityIn(records, side, system);
@@ -89,16 +73,6 @@ void RecalcTax(ProjectRecords& records, float first, float second, float labor) 
     double taxable = static_cast<double>(first) + second;
     if (records.GPDProjectFormat.TaxLabor) taxable += labor;
     tendos.TaxDealerCost = StoreSingle(taxable * static_cast<double>(tendos.TaxPercentage) / 100);
-}
-
-void DropWaterHeater(ProjectRecords& records, int system) {
-    const auto slot = static_cast<std::size_t>(system);
-    const ModelPriceColumns& prices = PricesOf(SelectionMode::WaterHeater);
-    for (const auto price :
-         {prices.dealerCost, prices.dealerOverride, prices.grossMargin, prices.priceMarkup,
-          prices.listDiscount, prices.salePrice, prices.listPrice})
-        records.ModelInfo.at(slot).*price = 0;
-    records.WHModelData.at(slot) = WHModelRecord{};
 }
 
 }  // namespace tendo

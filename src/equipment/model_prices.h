@@ -4,21 +4,10 @@
 #include <string_view>
 
 #include "equipment/model_tabs.h"
+#include "pricing/model_price_columns.h"
 #include "project/project_records.h"
 
 namespace tendo {
-
-/// The seven prices of one side of a system, in dollars and percent.
-struct ModelPriceColumns {
-    float ModelInfoRecord::*dealerCost;
-    float ModelInfoRecord::*dealerOverride;
-    float ModelInfoRecord::*grossMargin;
-    float ModelInfoRecord::*priceMarkup;
-    float ModelInfoRecord::*listDiscount;
-    float ModelInfoRecord::*salePrice;
-    float ModelInfoRecord::*listPrice;
-};
-const ModelPriceColumns& PricesOf(SelectionMode side);
 
 /// How many of the side's model the system (0 to 4) has.
 std::int16_t ModelQuantity(const ProjectRecords& records, SelectionMode side, int system);
@@ -37,8 +26,5 @@ void RebuildModelRow(ProjectRecords& records);
 /// The tax as a cost: the project's percentage of two amounts and, where labor is taxed, a third
 /// one, kept with all its decimals.
 void RecalcTax(ProjectRecords& records, float first, float second, float labor);
-
-/// Drops a system's water heater: its seven prices go to 0, all its fields go blank or 0.
-void DropWaterHeater(ProjectRecords& records, int system);
 
 }  // namespace tendo

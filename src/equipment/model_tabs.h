@@ -5,9 +5,12 @@
 #include <string>
 #include <string_view>
 
+#include "pricing/model_price_columns.h"
+
 namespace tendo {
 
-enum class SelectionMode { Cooling, Heating, WaterHeater };
+/// The screen's three modes are the sides of a system.
+using SelectionMode = ModelSide;
 
 /// The tabs of the model selection, in their order.
 enum ModelTabIndex { TabAC, TabHP, TabGSHP, TabFurnace, TabBoiler, TabWH };

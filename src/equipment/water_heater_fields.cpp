@@ -18,7 +18,7 @@ constexpr const char* LaborTimes[] = {"1 Year", "90 Days"};
 
 std::span<const ModelField> WaterHeaterFields() {
     static const ModelField fields[] = {
-        Number<wh, DropWaterHeater>("txtWHModelNum", "WH Model Num:"),
+        Number<wh, ModelSide::WaterHeater>("txtWHModelNum", "WH Model Num:"),
         Quantity<SelectionMode::WaterHeater>("txtWHModelQty", "WH Model Qty:"),
         Bind<wh, &WH::ModelDesc>("txtWHModelDesc", "Model Description:"),
         Bind<wh, &WH::ModelType>("txtWHModelType", "Model Type:"),

@@ -1,5 +1,6 @@
 #include "platform/text/number_text.h"
 #include "platform/text/text.h"
+#include "pricing/model_price_columns.h"
 #include "pricing/price_table.h"
 #include "pricing/relations.h"
 #include "pricing/system_models.h"
@@ -136,11 +137,7 @@ void PriceTable::CommitModelNumber(TableField field) {
         SetSystemTendos();
         return GetSystemTendos();
     }
-    if (cooling) {
-        DropCoolingModel(records_, system);
-    } else {
-        DropHeatingModel(records_, system);
-    }
+    DropModel(records_, cooling ? ModelSide::Cooling : ModelSide::Heating, system);
     State().ProjectChanged = true;
     ShowModels();
 }

@@ -115,26 +115,6 @@ std::string ModelDatabaseName(const std::string& fileName) {
     return !fits && fileName == State().CommonDirectory + bareName ? bareName : fileName;
 }
 
-void DropCoolingModel(ProjectRecords& records, int system) {
-    ModelInfoRecord& info = records.ModelInfo.at(Index(system));
-    for (float* price : {&info.CLGModelDealerCost, &info.CLGModelDealerOverride,
-                         &info.CLGModelGrossMargin, &info.CLGModelPriceMarkup,
-                         &info.CLGModelListDiscount, &info.CLGSalePrice, &info.CLGListPrice}) {
-        *price = 0;
-    }
-    records.CLGModelData.at(Index(system)) = CLGModelRecord{};
-}
-
-void DropHeatingModel(ProjectRecords& records, int system) {
-    ModelInfoRecord& info = records.ModelInfo.at(Index(system));
-    for (float* price : {&info.HTGModelDealerCost, &info.HTGModelDealerOverride,
-                         &info.HTGModelGrossMargin, &info.HTGModelPriceMarkup,
-                         &info.HTGModelListDiscount, &info.HTGSalePrice, &info.HTGListPrice}) {
-        *price = 0;
-    }
-    records.HTGModelData.at(Index(system)) = HTGModelRecord{};
-}
-
 std::string SystemCaption(int system) {
     return "Model Information for System " + std::to_string(system + 1);
 }

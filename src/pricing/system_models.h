@@ -38,10 +38,6 @@ std::string ModelDatabaseFile(std::string_view name);
 /// the common directory, by its bare name, which leads to the same file.
 std::string ModelDatabaseName(const std::string& fileName);
 
-/// Drops a system's model: its seven prices go to 0, all its fields go blank or 0.
-void DropCoolingModel(ProjectRecords& records, int system);
-void DropHeatingModel(ProjectRecords& records, int system);
-
 /// "Model Information for System 1" for system 0.
 std::string SystemCaption(int system);
 

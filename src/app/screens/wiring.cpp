@@ -43,10 +43,7 @@ void EnterScreens() {
 void WirePricing() {
     PricingScreens().ScreenExists = ScreenExists;
     PricingScreens().ShowScreen = ShowScreen;
-    PricingScreens().SelectModel = [](ModelSide side) {
-        ShowModelSelection(side == ModelSide::Cooling ? SelectionMode::Cooling
-                                                      : SelectionMode::Heating);
-    };
+    PricingScreens().SelectModel = ShowModelSelection;
     ModelDatabasesChanged() = RefillPriceScreens;
     AfterModelSelection() = {RefillPriceScreens, [] { RefillSystemForm("frmDetailModelData"); },
                              [] { RefillSystemForm("frmWHInfo"); }};

@@ -3,9 +3,9 @@
 #include <QString>
 #include <functional>
 
-namespace tendo {
+#include "pricing/model_price_columns.h"
 
-enum class ModelSide { Cooling, Heating };
+namespace tendo {
 
 /// What the price screens ask of higher rooms; set in one place, app/screens/wiring.cpp. A button
 /// whose screen isn't there is disabled.
