@@ -43,9 +43,9 @@ void ModelPriceLine::Write(FieldKind column, std::string text) {
 void ModelPriceLine::SetText(FieldKind column, const std::string& text) {
     texts_[Index(column)] = text;
     if (!IsPercentage(column) || text.empty() || text == "-") return;
-    const double value = ValueOfText(text);
+    const float typed = ValueOfText(text);
     float& exact = exact_[Index(column)];
-    if (value > exact + 0.1 || value < exact - 0.1) exact = static_cast<float>(value);
+    if (IsPercentEdit(typed, exact)) exact = typed;
 }
 
 void ModelPriceLine::Show(int system) {

@@ -190,6 +190,7 @@ void PriceTable::RecalcTax() {
     Show(TableField::TaxableAmount, taxable, MoneyPicture);
     const double rate = static_cast<double>(Value(TableField::TaxPercentage)) / 100;
     tendos.TaxDealerCost = StoreSingle(rate * taxable);
+    Show(TableField::TaxDealerCost, tendos.TaxDealerCost, MoneyPicture);
     // To cents by way of the text, as every other price gets its cents.
     tendos.TaxSalePrice = ValueOfText(FormatNumber(tendos.TaxDealerCost, MoneyPicture));
     Show(TableField::TaxSalePrice, tendos.TaxSalePrice, MoneyPicture);

@@ -44,7 +44,6 @@ void PriceTable::Open() {
     LoadInProgress = false;
     SetSystemTendos();
     Guard("Form_Load", [&] {
-        RecalcSubTotalSalePrice();
         // The refill recomputed both; a saved total that was typed must come back.
         tendos.TotalSalePrice = savedTotal;
         Show(TableField::TotalSalePrice, savedTotal, MoneyPicture);
@@ -80,6 +79,7 @@ void PriceTable::SetSystemTendos() {
     tendos.ModelLDPrice = Value(TableField::ModelSalePrice);
     WriteSalePrices();
     Attempt(Refill, [&] { ShowModels(); });
+    Attempt(Refill, [&] { RecalcSubTotalSalePrice(); });
     TendoCalculations(price_field::Nothing, price_row::None);
 }
 

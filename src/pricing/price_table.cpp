@@ -1,8 +1,5 @@
 #include "pricing/price_table.h"
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
 #include <utility>
 
 #include "platform/text/number_text.h"
@@ -14,20 +11,9 @@ namespace tendo {
 namespace {
 
 constexpr const char* MessageTitle = "Tendo";
-/// A change of up to this many percent points is taken for the display's rounding.
-constexpr double DisplayRounding = 0.1;
 
 std::size_t Index(TableField field) {
     return static_cast<std::size_t>(field);
-}
-
-/// True when two percentages lie more than the display's rounding apart. Both come from decimal
-/// texts, so the last binary digit of each is allowed for: 25.1 and 25 are not more than 0.1 apart.
-bool FarApart(float a, float b) {
-    const double difference = std::abs(static_cast<double>(a) - static_cast<double>(b));
-    const double size =
-        std::max(std::abs(static_cast<double>(a)), std::abs(static_cast<double>(b)));
-    return difference > DisplayRounding + 2 * size * std::numeric_limits<float>::epsilon();
 }
 
 }  // namespace
@@ -122,9 +108,9 @@ void PriceTable::KeepExact(TableField field) {
     float& exact = Exact(field);
     const bool ofModelRow = description.row == price_row::Model;
     const float reference = ofModelRow ? records_.SystemTendos.*description.column : exact;
-    if (FarApart(Value(field), reference)) {
+    if (IsPercentEdit(Value(field), reference)) {
         exact = Value(field);
-    } else if (FarApart(exact, reference)) {
+    } else if (IsPercentEdit(exact, reference)) {
         // What stands near the stored percentage means that one, also when nothing was edited since
         // opening.
         exact = reference;

@@ -1,5 +1,6 @@
 #include "pricing/relations.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -76,6 +77,16 @@ bool SameAsCost(float cost, float override) {
 
 float EffectiveCost(float cost, float override) {
     return override != 0 ? override : cost;
+}
+
+bool IsPercentEdit(float typed, float inForce) {
+    constexpr double displayRounding = 0.1;
+    const double a = typed;
+    const double b = inForce;
+    // The last binary digit of each may be off its decimal text.
+    const double noise =
+        2 * std::max(std::abs(a), std::abs(b)) * std::numeric_limits<float>::epsilon();
+    return std::abs(a - b) > displayRounding + noise;
 }
 
 }  // namespace tendo

@@ -28,6 +28,11 @@ bool SameAsCost(float cost, float override);
 /// The override when it isn't 0, else the dealer cost.
 float EffectiveCost(float cost, float override);
 
+/// True when a percentage lies more than 0.1 from the one in force, so that it counts as an edit
+/// and not as the display's rounding. Both come from decimal texts: 25.1 and 25 lie 0.1 apart, no
+/// more.
+bool IsPercentEdit(float typed, float inForce);
+
 /// The one rounding of a result to a float; RuntimeError 6 when it lies beyond the range.
 float StoreSingle(double value);
 

@@ -70,6 +70,32 @@ TEST_F(ModelPrices, AnEditOfLessThanATenthLeavesTheExactMarginInForce) {
     EXPECT_EQ(line.Text(FieldKind::SalePrice), "$1,000.00");
 }
 
+TEST_F(ModelPrices, AnEditOfExactlyATenthLeavesTheExactMarginInForce) {
+    Enter(FieldKind::GrossMargin, "25.1");                    // over 25.0
+    EXPECT_EQ(line.Text(FieldKind::SalePrice), "$1,000.00");  // 750 / 0.75
+    EXPECT_EQ(records.ModelInfo[0].CLGModelGrossMargin, 25);
+    Enter(FieldKind::GrossMargin, "25.2");
+    EXPECT_EQ(line.Text(FieldKind::SalePrice), "$1,002.67");  // 750 / 0.748 = 1002.674
+}
+
+TEST_F(ModelPrices, TextInANumericFieldCountsAsZero) {
+    // An override of 0 means none: the cost of 750 stays in force.
+    Enter(FieldKind::DealerOverride, "twelve");
+    EXPECT_EQ(records.ModelInfo[0].CLGModelDealerOverride, 0);
+    EXPECT_EQ(line.Text(FieldKind::GrossMargin), "25.0");
+    Enter(FieldKind::PriceMarkup, "12abc");  // at cost
+    EXPECT_EQ(line.Text(FieldKind::SalePrice), "$750.00");
+    Enter(FieldKind::ListDiscount, "none");  // at list
+    EXPECT_EQ(line.Text(FieldKind::SalePrice), "$1,200.00");
+    Enter(FieldKind::GrossMargin, "?");  // at cost
+    EXPECT_EQ(line.Text(FieldKind::SalePrice), "$750.00");
+    Enter(FieldKind::SalePrice, "free");
+    EXPECT_EQ(line.Text(FieldKind::SalePrice), "$0.00");
+    EXPECT_EQ(line.Text(FieldKind::GrossMargin), "-75000.0");  // (0 - 750) * 100
+    Enter(FieldKind::DealerCost, "-");
+    EXPECT_EQ(records.ModelInfo[0].CLGModelDealerCost, 0);
+}
+
 TEST_F(ModelPrices, AnEmptyTextCommitsNothing) {
     line.SetText(FieldKind::SalePrice, "");
     EXPECT_FALSE(line.Commit(FieldKind::SalePrice));

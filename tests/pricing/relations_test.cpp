@@ -112,5 +112,18 @@ TEST(LinePricing, EachRelationRoundsOnceToAFloat) {
     EXPECT_EQ(GrossMarginFromSale(1.0F, 1.1F), static_cast<float>((sale - 1.0) / sale * 100));
 }
 
+TEST(LinePricing, APercentageCountsAsEditedBeyondATenthOnly) {
+    // 25.1 as a float lies a little above 25 + 0.1; to the reader of the screen it lies 0.1 apart.
+    EXPECT_FALSE(IsPercentEdit(25.1F, 25));
+    EXPECT_FALSE(IsPercentEdit(24.9F, 25));
+    EXPECT_FALSE(IsPercentEdit(-33.4F, -33.3F));
+    EXPECT_FALSE(IsPercentEdit(0.1F, 0));
+    EXPECT_FALSE(IsPercentEdit(9999.1F, 9999));
+    EXPECT_TRUE(IsPercentEdit(25.11F, 25));
+    EXPECT_TRUE(IsPercentEdit(24.89F, 25));
+    EXPECT_TRUE(IsPercentEdit(0.11F, 0));
+    EXPECT_TRUE(IsPercentEdit(-33.3F, 33.3F));
+}
+
 }  // namespace
 }  // namespace tendo

@@ -100,6 +100,36 @@ TEST_F(SystemScreen, ARefillNeedsTheFlagAndAnOpenScreen) {
     EXPECT_FALSE(table.FieldChanged);
 }
 
+TEST_F(SystemScreen, ARefillBringsTheSubTotalUpToDate) {
+    tendos().ModelSalePrice = 1000;
+    table.Open();
+    EXPECT_EQ(Text(Field::SubTotalSalePrice), "$1,000.00");
+    tendos().LaborSalePrice = 200;
+    table.FieldChanged = true;
+    table.SetSystemTendos();
+    EXPECT_EQ(Text(Field::SubTotalSalePrice), "$1,200.00");
+    EXPECT_EQ(Text(Field::TotalSalePrice), "$1,299.00");  // with 8.25 % of 1200
+    EXPECT_EQ(Text(Field::Profit), "$1,200.00");
+    EXPECT_EQ(Text(Field::SuperProfit), "$0.00");
+}
+
+TEST_F(SystemScreen, ARefillThatChangesNoPriceKeepsATypedTotal) {
+    tendos().ModelSalePrice = 1000;
+    table.Open();
+    Enter(Field::TotalSalePrice, "5000");
+    table.NextSystem();
+    EXPECT_EQ(Text(Field::TotalSalePrice), "$5,000.00");
+    EXPECT_EQ(Text(Field::SuperProfit), "$3,917.50");  // 5000 - 1000 - 82.50
+}
+
+TEST_F(SystemScreen, TheTaxAsACostIsShownFromOpeningOn) {
+    tendos().ModelSalePrice = 1000;
+    table.Open();
+    EXPECT_EQ(Text(Field::TaxDealerCost), "$82.50");
+    EXPECT_EQ(Text(Field::TaxDealerOverride), "$0.00");
+    EXPECT_EQ(Text(Field::TotalDealerCost), "$0.00");  // no part of the costs
+}
+
 TEST_F(SystemScreen, TheTaxPercentageShowsOneOrTwoDecimals) {
     table.Open();
     EXPECT_EQ(Text(Field::TaxPercentage), "8.25");

@@ -48,6 +48,7 @@ TEST_F(ProjectTotals, TaxIsRoundedInItsSalePriceAndKeptUnroundedInItsCost) {
     table.Open();
     Enter(Field::ModelSalePrice, "333.33");  // 8.25 % is 27.499725
     EXPECT_EQ(Text(Field::TaxSalePrice), "$27.50");
+    EXPECT_EQ(Text(Field::TaxDealerCost), "$27.50");  // shown in cents, and only shown
     EXPECT_EQ(tendos().TaxSalePrice, 27.5F);
     EXPECT_NEAR(static_cast<double>(tendos().TaxDealerCost), 27.499725, 1e-5);
     table.Close();
