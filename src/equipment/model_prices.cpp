@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "platform/text/number_text.h"
+#include "pricing/list_base.h"
 #include "pricing/relations.h"
 
 namespace tendo {
@@ -52,9 +53,7 @@ void SetModelQuantity(ProjectRecords& records, SelectionMode side, int system,
 void RebuildListBases(ProjectRecords& records) {
     SystemTendosRecord& tendos = records.SystemTendos;
     tendos.ModelLDPrice = SumWithQuantities(records, &ModelPriceColumns::listPrice);
-    tendos.TotalLDPrice =
-        StoreSingle(static_cast<double>(tendos.ModelLDPrice) + tendos.TaxMatLDPrice +
-                    tendos.NonTaxLDPrice + tendos.LaborLDPrice + tendos.TaxSalePrice);
+    RebuildTotalListBase(tendos);
 }
 
 void RebuildModelRow(ProjectRecords& records) {

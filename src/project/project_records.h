@@ -103,6 +103,8 @@ struct SystemTendosRecord {
     float ModelLDPrice = 0, TaxMatLDPrice = 0, NonTaxLDPrice = 0, LaborLDPrice = 0,
           TotalLDPrice = 0;
 
+    friend bool operator==(const SystemTendosRecord&, const SystemTendosRecord&) = default;
+
     template <class Self, class Visit>
     static void ForEachField(Self& self, Visit&& visit) {
         visit("ModelDealerCost", self.ModelDealerCost);
@@ -350,6 +352,8 @@ struct MaterialRow {
     std::int16_t Tax = 0;
     float UnitCst = 0, ListCst = 0, GrossMargin = 0, PriceMarkup = 0, ListDiscount = 0,
           SalePrice = 0;
+
+    friend bool operator==(const MaterialRow&, const MaterialRow&) = default;
 
     template <class Self, class Visit>
     static void ForEachField(Self& self, Visit&& visit) {
