@@ -16,6 +16,8 @@ struct FileStamp {
     std::filesystem::file_time_type time;
     bool operator==(const FileStamp&) const = default;
 };
+/// The state of a file as it is now; nothing when there is none.
+std::optional<FileStamp> StampOf(const std::string& name);
 
 /// What start-up finds out and the whole program reads.
 struct ProgramState {

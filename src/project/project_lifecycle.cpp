@@ -45,14 +45,6 @@ void MakeWorkFile() {
     DeleteFileIfThere(filling);
 }
 
-std::optional<FileStamp> StampOf(const std::string& name) {
-    std::error_code sizeError, timeError;
-    const FileStamp stamp{std::filesystem::file_size(name, sizeError),
-                          std::filesystem::last_write_time(name, timeError)};
-    if (sizeError || timeError) return std::nullopt;
-    return stamp;
-}
-
 std::string RecentFileKey(int index) {
     return "File" + std::to_string(index);
 }

@@ -223,6 +223,42 @@ TEST_F(DatabaseFileTest, AFailedWriteIsToldAndCanBeTriedAgain) {
     EXPECT_EQ(Column(again, "Categories", "Category"), "Pipe|\xC3\x89lan|Valve");
 }
 
+TEST_F(DatabaseFileTest, ASaveWritesAndTheRowSetsGoOn) {
+    const std::string path = PriceFile();
+    Database database = Database::OpenDatabase(path);
+    Recordset rows = database.OpenRecordset("Materials");
+    for (const char* description : {"Cap", "Tee"}) {
+        rows.Edit();
+        rows.Set("Description", std::string(description));
+        rows.Update();
+        EXPECT_TRUE(database.Changed());
+        database.Save();
+        EXPECT_FALSE(database.Changed());
+        Database again = Database::OpenDatabase(path);
+        EXPECT_EQ(again.OpenRecordset("Materials").Text("Description"), description);
+        EXPECT_EQ(again.OpenRecordset("Categories").RecordCount(), 2);
+    }
+    const std::string bytes = ReadWholeFile(path);
+    database.Save();  // nothing changed
+    EXPECT_EQ(ReadWholeFile(path), bytes);
+}
+
+TEST_F(DatabaseFileTest, ASaveThatFailsKeepsTheFileAndTheChanges) {
+    std::filesystem::create_directory(Path("folder"));
+    std::filesystem::rename(PriceFile(), Path("folder/prices.mdb"));
+    const std::string path = Path("folder/prices.mdb");
+    const std::string bytes = ReadWholeFile(path);
+    Database database = Database::OpenDatabase(path);
+    database.DeleteAllRows("Materials");
+    std::filesystem::rename(Path("folder"), Path("away"));
+    EXPECT_NE(ErrorOf([&] { database.Save(); }), 0);
+    EXPECT_TRUE(database.Changed());
+    std::filesystem::rename(Path("away"), Path("folder"));
+    EXPECT_EQ(ReadWholeFile(path), bytes);
+    database.Save();
+    EXPECT_EQ(Database::OpenDatabase(path).OpenRecordset("Materials").RecordCount(), 0);
+}
+
 TEST_F(DatabaseFileTest, DuplicatesInTheFilesUniqueIndexAreRefused) {
     const std::string path = Path("unique.mdb");
     Database::CreateDatabase(path);

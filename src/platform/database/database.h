@@ -57,6 +57,9 @@ class Database {
     /// Removes all rows of a table.
     void DeleteAllRows(std::string_view table);
 
+    /// Writes the file when anything changed, and stays open. A failure leaves the old file whole,
+    /// the changes are still to be written, and it throws.
+    void Save();
     /// Writes the file when anything changed. A failure leaves the old file whole and throws.
     void Close();
     /// True when Close would write.

@@ -168,9 +168,15 @@ Recordset Database::OpenRecordset(std::string_view source) {
         std::make_unique<Recordset::State>(engine_, std::move(select), std::move(used)));
 }
 
+void Database::Save() {
+    if (!Changed()) return;
+    engine_->file->Write(*engine_);
+    engine_->changed = false;
+}
+
 void Database::Close() {
     if (engine_->closed) return;
-    if (Changed()) engine_->file->Write(*engine_);
+    Save();
     engine_->Shut();
 }
 

@@ -17,6 +17,7 @@ namespace {
 
 constexpr int DatabaseExists = 3204;
 constexpr int OldGeneration = 3;
+constexpr int WrittenGeneration = 4;
 
 /// What a rewritten file would lack, in words.
 std::string LostThings(const jet::NotKept& notKept) {
@@ -79,8 +80,10 @@ class JetFile : public DatabaseFile {
         const std::string bytes = jet::WriteFile(tables, SerialOfDate(Now()));
         if (generation_ == OldGeneration) KeepOriginal();
         ReplaceFile(path_, bytes);
-        if (!original_.empty() && HooksOfDatabases().JetThreeKept)
-            HooksOfDatabases().JetThreeKept(path_, original_);
+        generation_ = WrittenGeneration;
+        const std::string original = std::exchange(original_, "");
+        if (!original.empty() && HooksOfDatabases().JetThreeKept)
+            HooksOfDatabases().JetThreeKept(path_, original);
     }
 
     void AllTablesRead() override { reader_.reset(); }
