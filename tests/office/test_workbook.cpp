@@ -7,24 +7,13 @@
 #include "platform/office/read_workbook.h"
 #include "platform/office/xls_reader.h"
 #include "platform/text/runtime_error.h"
+#include "record_bytes.h"
 
 namespace tendo {
 namespace {
 
 std::string DataFile(const std::string& name) {
     return ReadWholeFile(TENDO_TEST_DATA "/office/" + name);
-}
-
-std::string U16(unsigned value) {
-    return {static_cast<char>(value & 0xFF), static_cast<char>(value >> 8)};
-}
-
-std::string U32(std::uint32_t value) {
-    return U16(value & 0xFFFF) + U16(value >> 16);
-}
-
-std::string Record(unsigned type, const std::string& body) {
-    return U16(type) + U16(static_cast<unsigned>(body.size())) + body;
 }
 
 const std::string Begin = Record(0x809, U16(0x600) + U16(5));
