@@ -12,4 +12,7 @@ bool PriceCommit();
 /// `share`: the folder of the built sample data.
 bool ReportPdf(const std::string& folder, const std::string& share);
 
+/// The model selection on a database of 40,000 air conditioners. Needs the QApplication.
+bool ModelSelectionScreen(const std::string& folder);
+
 }  // namespace tendo::bench
