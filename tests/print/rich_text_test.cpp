@@ -104,6 +104,21 @@ TEST(RichText, BytesByTheirNumberAreReadInTheWindowsCodePage) {
     EXPECT_EQ(Plain("{\\rtf1 caf\\'e9 \\'93so\\'94 68\\'b0}"), "café “so” 68°");
 }
 
+TEST(RichText, BytesFollowTheCodePageOfTheDocumentOrTheirFont) {
+    EXPECT_EQ(Plain("{\\rtf1\\ansi\\ansicpg1251 \\'ca\\'ee\\'eb}"), "Кол");
+    EXPECT_EQ(Plain("{\\rtf1\\mac gro\\'a7}"), "groß");
+    EXPECT_EQ(Plain("{\\rtf1\\pc 68\\'f8}"), "68°");
+    EXPECT_EQ(Plain("{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}{\\f1\\fcharset238 Arial CE;}}"
+                    "\\f1 \\'b3\\f0  \\'b3}"),
+              "ł ³");
+}
+
+TEST(RichText, ACharacterOfTwoBytesIsOneCharacter) {
+    EXPECT_EQ(
+        Plain("{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset128 Gothic;}}\\f0 \\'93\\'fa\\'96\\'7b}"),
+        "日本");
+}
+
 TEST(RichText, UnicodeCharactersReplaceTheirSubstitutes) {
     EXPECT_EQ(Plain("{\\rtf1\\uc1 \\u8364?uro \\u-4051\\'b7}"),
               "€uro \xEF\x80\xAD");  // -4051 is U+F02D
@@ -116,6 +131,8 @@ TEST(RichText, BulletsOfListsAreShown) {
         "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1\\fcharset2 Symbol;}}"
         "{\\pntext\\f1\\'B7\\tab}{\\*\\pn\\pnlvlblt\\pnf1{\\pntxtb\\'B7}}first\\par}";
     EXPECT_EQ(Plain(list), "•\tfirst");
+    EXPECT_TRUE(Read(list).paragraphs[0].bullet);
+    EXPECT_FALSE(Read("{\\rtf1 \\bullet\\tab typed\\par}").paragraphs[0].bullet);
 }
 
 TEST(RichText, EscapedBracesAndSpecialCharactersAreText) {

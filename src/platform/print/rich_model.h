@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/print/document.h"
@@ -22,8 +23,12 @@ struct RichParagraph {
     int leftIndent = 0, rightIndent = 0, firstIndent = 0;
     int spaceBefore = 0, spaceAfter = 0;
     std::vector<int> tabs;
+    bool bullet = false;  // a point of a list: its text begins with the mark and a tab
     std::vector<RichRun> runs;
 };
+
+/// What a bulleted paragraph begins with.
+inline constexpr std::string_view BulletMark = "\u2022\t";
 
 struct RichText {
     std::vector<RichParagraph> paragraphs;

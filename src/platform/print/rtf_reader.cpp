@@ -46,6 +46,32 @@ constexpr std::array<std::string_view, 14> SkippedWords = {
     "stylesheet", "info",    "pict",    "object",  "header",  "footer",  "headerl",
     "headerr",    "headerf", "footerl", "footerr", "footerf", "filetbl", "footnote"};
 
+/// Words at the head of a document that name its code page.
+struct PageWord {
+    std::string_view word;
+    int page;
+};
+constexpr std::array PageWords = {PageWord{"ansi", 1252}, PageWord{"mac", 10000},
+                                  PageWord{"pc", 437}, PageWord{"pca", 850}};
+
+/// Code pages of the character sets that fonts name; set 2 is that of symbols.
+struct CharacterSet {
+    int set, page;
+};
+constexpr int SymbolSet = 2;
+constexpr std::array CharacterSets = {
+    CharacterSet{77, 10000}, CharacterSet{128, 932},  CharacterSet{129, 949},
+    CharacterSet{134, 936},  CharacterSet{136, 950},  CharacterSet{161, 1253},
+    CharacterSet{162, 1254}, CharacterSet{163, 1258}, CharacterSet{177, 1255},
+    CharacterSet{178, 1256}, CharacterSet{186, 1257}, CharacterSet{204, 1251},
+    CharacterSet{222, 874},  CharacterSet{238, 1250}, CharacterSet{255, 437}};
+
+int PageOfSet(int set) {
+    const auto found = std::find_if(CharacterSets.begin(), CharacterSets.end(),
+                                    [&](const CharacterSet& entry) { return entry.set == set; });
+    return found == CharacterSets.end() ? 0 : found->page;
+}
+
 /// What a byte of a symbol font shows; all marks of lists become the one bullet.
 std::string SymbolText(unsigned char byte) {
     const bool mark = byte == 0xB7 || byte == 0xA7 || byte == 0xA8 || byte == 0x6C || byte == 0x6E;
@@ -159,8 +185,21 @@ void RtfReader::HexByte() {
     }
     if (Now().destination != Destination::Text) return;
     const auto byte = static_cast<unsigned char>(high * 16 + low);
-    AddText(Now().symbolFont ? SymbolText(byte)
-                             : FromWindows1252(std::string(1, static_cast<char>(byte))));
+    if (Now().symbolFont)
+        AddText(SymbolText(byte));
+    else
+        AddCodePageByte(byte);
+}
+
+/// In the pages of the Far East a byte from 0x81 on is the first half of a character.
+void RtfReader::AddCodePageByte(unsigned char byte) {
+    const int page = Now().codePage == 0 ? documentPage_ : Now().codePage;
+    const bool second = !leadByte_.empty();
+    leadByte_ += static_cast<char>(byte);
+    if (!second && IsDoubleByteCodePage(page) && byte > 0x80 && byte < 0xFF) return;
+    const std::string bytes = std::move(leadByte_);
+    leadByte_.clear();
+    AddText(FromCodePage(bytes, page));
 }
 
 RtfReader::Control RtfReader::ReadControl() {
@@ -190,8 +229,21 @@ void RtfReader::Apply(const Control& control) {
     }
     if (ApplyDestination(control) || Now().destination == Destination::Skipped) return;
     if (Now().destination == Destination::ColorTable) return ApplyColorEntry(control);
-    if (ApplyFont(control) || ApplyParagraph(control)) return;
+    if (ApplyFont(control) || ApplyParagraph(control) || ApplyCodePage(control)) return;
     ApplyCharacter(control);
+}
+
+bool RtfReader::ApplyCodePage(const Control& control) {
+    if (control.word == "ansicpg") {
+        if (control.number > 0) documentPage_ = control.number;
+        return true;
+    }
+    const auto found = std::find_if(PageWords.begin(), PageWords.end(), [&](const PageWord& entry) {
+        return entry.word == control.word;
+    });
+    if (found == PageWords.end()) return false;
+    documentPage_ = found->page;
+    return true;
 }
 
 bool RtfReader::ApplyDestination(const Control& control) {
@@ -227,7 +279,9 @@ bool RtfReader::ApplyFont(const Control& control) {
         return true;
     }
     if (control.word == "fcharset" && Now().destination == Destination::FontTable) {
-        if (!fonts_.empty()) fonts_.back().symbol = control.number == 2;
+        if (fonts_.empty()) return true;
+        fonts_.back().symbol = control.number == SymbolSet;
+        fonts_.back().codePage = PageOfSet(control.number);
         return true;
     }
     if (Now().destination == Destination::FontTable) return true;
@@ -248,6 +302,7 @@ bool RtfReader::ApplyFont(const Control& control) {
         font.strike = control.On();
     else if (control.word == "plain") {
         Now().symbolFont = false;
+        Now().codePage = 0;
         const int size = font.sizeTwips;
         font = base_.font;
         font.sizeTwips = size;
@@ -297,6 +352,10 @@ bool RtfReader::ApplyParagraph(const Control& control) {
 bool RtfReader::ApplyCharacter(const Control& control) {
     if (control.word == "u" && control.hasNumber) {
         AddUnicode(control.number);
+        return true;
+    }
+    if (control.word == "pntext" || control.word == "listtext") {
+        listText_ = true;
         return true;
     }
     if (control.word == "uc") {
@@ -376,6 +435,8 @@ void RtfReader::EndParagraph() {
     RichParagraph paragraph = Now().paragraph;
     if (runs_.empty()) runs_.push_back(Now().format);
     paragraph.runs = std::move(runs_);
+    paragraph.bullet = listText_ && StartsWith(paragraph.runs.front().text, "\u2022");
+    listText_ = false;
     runs_.clear();
     result_.paragraphs.push_back(std::move(paragraph));
 }
@@ -385,6 +446,7 @@ void RtfReader::SelectFont(int number) {
     const auto found = std::find_if(fonts_.begin(), fonts_.end(),
                                     [&](const Font& font) { return font.number == number; });
     if (found == fonts_.end()) return;
+    Now().codePage = found->codePage;
     Now().symbolFont = found->symbol || found->name == "Symbol" || found->name == "Wingdings";
     if (!Now().symbolFont && !found->name.empty())
         Now().format.font.family = std::string(Trimmed(found->name));

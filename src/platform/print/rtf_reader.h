@@ -23,11 +23,13 @@ class RtfReader {
         Destination destination = Destination::Text;
         int unicodeSkip = 1;  // bytes that stand for a \u character in older readers
         bool symbolFont = false;
+        int codePage = 0;  // of the font; 0 is the document's
     };
     struct Font {
         int number = 0;
         std::string name;
         bool symbol = false;
+        int codePage = 0;
     };
     struct Control {
         std::string_view word;
@@ -47,10 +49,12 @@ class RtfReader {
     bool ApplyFont(const Control& control);
     bool ApplyParagraph(const Control& control);
     bool ApplyCharacter(const Control& control);
+    bool ApplyCodePage(const Control& control);
     void ApplyColorEntry(const Control& control);
 
     void AddByte(unsigned char byte);
     void AddText(std::string_view text);
+    void AddCodePageByte(unsigned char byte);
     void AddUnicode(int number);
     void AddTableText(char character);
     void EndParagraph();
@@ -65,7 +69,10 @@ class RtfReader {
     int skipBytes_ = 0;
     bool starred_ = false;
     bool wholeDocument_ = false;
+    bool listText_ = false;  // the paragraph has a list's mark
     char32_t highSurrogate_ = 0;
+    int documentPage_ = 1252;
+    std::string leadByte_;  // the first half of a character of two bytes
     std::vector<Font> fonts_;
     std::vector<Rgb> colors_;
     Rgb colorEntry_ = 0;

@@ -1,5 +1,10 @@
 #include "platform/text/code_page.h"
 
+#include <iconv.h>
+
+#include <array>
+#include <cerrno>
+
 #include "platform/text/text.h"
 #include "platform/text/utf8.h"
 
@@ -55,7 +60,60 @@ std::string BytesSwapped(std::string_view bytes) {
     return swapped;
 }
 
+constexpr int MacintoshPage = 10000;
+
+/// The conversion's own name of a page.
+std::string NameOfPage(int page) {
+    return page == MacintoshPage ? "MACINTOSH" : "CP" + std::to_string(page);
+}
+
+/// A conversion of the system's, from one page to UTF-8.
+class PageConversion {
+  public:
+    explicit PageConversion(int page)
+        : conversion_(::iconv_open("UTF-8", NameOfPage(page).c_str())) {}
+    ~PageConversion() {
+        if (IsKnown()) ::iconv_close(conversion_);
+    }
+    PageConversion(const PageConversion&) = delete;
+    PageConversion& operator=(const PageConversion&) = delete;
+
+    bool IsKnown() const { return conversion_ != reinterpret_cast<iconv_t>(-1); }
+
+    std::string Convert(std::string_view bytes) {
+        std::string input(bytes);
+        std::string text;
+        char* from = input.data();
+        std::size_t left = input.size();
+        while (left > 0) {
+            std::array<char, 256> piece{};
+            char* to = piece.data();
+            std::size_t room = piece.size();
+            const std::size_t result = ::iconv(conversion_, &from, &left, &to, &room);
+            text.append(piece.data(), piece.size() - room);
+            if (result != static_cast<std::size_t>(-1) || errno == E2BIG) continue;
+            AppendUtf8(text, 0xFFFD);
+            ++from;
+            --left;
+        }
+        return text;
+    }
+
+  private:
+    iconv_t conversion_;
+};
+
 }  // namespace
+
+bool IsDoubleByteCodePage(int page) {
+    return page == 932 || page == 936 || page == 949 || page == 950;
+}
+
+std::string FromCodePage(std::string_view bytes, int page) {
+    if (page == 1252) return FromWindows1252(bytes);
+    PageConversion conversion(page);
+    return conversion.IsKnown() ? conversion.Convert(bytes) : FromWindows1252(bytes);
+}
 
 std::string FromWindows1252(std::string_view bytes) {
     std::string text;
