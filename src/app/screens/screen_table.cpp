@@ -20,6 +20,10 @@ bool ScreenExists(const QString& name) {
     return Screens().contains(name);
 }
 
+QStringList ScreenNames() {
+    return Screens().keys();
+}
+
 Form* LoadScreen(const QString& name) {
     if (Form* loaded = Form::Find(name)) return loaded;
     const auto found = Screens().constFind(name);

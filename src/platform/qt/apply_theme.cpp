@@ -8,6 +8,7 @@
 #include <QWidget>
 #include <map>
 
+#include "platform/qt/alt_letters.h"
 #include "platform/qt/desktop_colors.h"
 #include "platform/qt/enhanced_input.h"
 #include "platform/qt/style.h"
@@ -172,6 +173,7 @@ void ApplyTheme(QApplication& application) {
 void ApplyTheme(QApplication& application, bool dark) {
     InitResources();
     GuardFieldsFromWheel();
+    WatchAltKey();
     SetThemeColors(dark ? DarkColors() : LightColors());
     application.setStyleSheet({});
     application.setStyle(new TendoStyle);

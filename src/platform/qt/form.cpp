@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
@@ -12,6 +13,8 @@
 #include "platform/files/ini_file_handler.h"
 #include "platform/files/profile.h"
 #include "platform/qt/fields.h"
+#include "platform/qt/mnemonics.h"
+#include "platform/qt/spoken_names.h"
 #include "platform/text/runtime_error.h"
 
 namespace tendo {
@@ -68,8 +71,22 @@ void Form::MakeSubWindow() {
     if (!placementSection_.isEmpty()) RestorePlacement(window, placementSection_);
 }
 
+void Form::PrepareControls() {
+    if (place_ == Place::Main || place_ == Place::Free) return;
+    NameControls(this);
+    const bool besideMenus = place_ == Place::Child && workspace;
+    AssignMnemonics(this, besideMenus ? MenuBarLetters(workspace) : QString());
+}
+
+void Form::ShowCaption(QLabel* label, const QString& text) {
+    if (OwnCaption(label) == text) return;
+    label->setText(text);
+    if (isVisible()) PrepareControls();
+}
+
 void Form::ShowForm() {
     if (place_ == Place::Dialog) return ShowModal();
+    PrepareControls();
     if (place_ == Place::Child && workspace) {
         if (!subWindow_) MakeSubWindow();
         if (subWindow_->isMinimized()) subWindow_->showNormal();
@@ -88,6 +105,7 @@ void Form::ShowForm() {
 }
 
 void Form::ShowModal() {
+    PrepareControls();
     if (!placementSection_.isEmpty()) RestorePlacement(this, placementSection_);
     QPointer<Form> self(this);
     QEventLoop loop;

@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <functional>
 
+class QLabel;
 class QMdiArea;
 
 namespace tendo {
@@ -72,6 +73,9 @@ class Form : public QWidget {
     static void RestorePlacement(QWidget* window, const QString& section);
     static void StorePlacement(const QWidget* window, const QString& section);
 
+    /// Writes a label's text; its letter for Alt is found anew.
+    void ShowCaption(QLabel* label, const QString& text);
+
     QMdiSubWindow* SubWindow() const { return subWindow_; }
 
   protected:
@@ -85,6 +89,7 @@ class Form : public QWidget {
 
   private:
     void MakeSubWindow();
+    void PrepareControls();
     void KeepPlacement();
 
     Place place_;

@@ -1,9 +1,12 @@
 #include "platform/qt/style.h"
 
+#include <QMenu>
+#include <QMenuBar>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include "platform/qt/alt_letters.h"
 #include "platform/qt/theme.h"
 
 namespace tendo {
@@ -117,6 +120,10 @@ int TendoStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
                           QStyleHintReturn* data) const {
     if (hint == SH_TitleBar_NoBorder) return 1;
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    if (hint == SH_TabBar_AllowWheelScrolling) return 0;
+    if (hint == SH_UnderlineShortcut)
+        return AltIsHeld() || !widget || qobject_cast<const QMenuBar*>(widget) ||
+               qobject_cast<const QMenu*>(widget);
     return QProxyStyle::styleHint(hint, option, widget, data);
 }
 

@@ -60,7 +60,7 @@ QSize frmSumModelData::sizeHint() const {
 }
 
 void frmSumModelData::ShowSurroundings() {
-    lblLabor_->setText(Q(LaborLabel(Project())));
+    ShowCaption(lblLabor_, Q(LaborLabel(Project())));
     const QString percentage = fields_.At(TableField::TaxPercentage)->text();
     lblTax_->setText("Tax " + percentage + " %");
     taxSum_->ShowText(Q(table_.Text(TableField::TaxSalePrice)));

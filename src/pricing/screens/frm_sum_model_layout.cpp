@@ -239,7 +239,7 @@ QWidget* frmSumModelData::MakeEarnings() {
     };
     figure(TableField::TaxableAmount, "Taxable amount");
     lblTax_ = MakeLabel("", nullptr, box);
-    taxSum_ = new TextField(FieldSpec{.name = "", .label = "Tax", .kind = EntryKind::Figure}, box);
+    taxSum_ = new TextField(FieldSpec{.name = "", .label = "Tax amount", .kind = EntryKind::Figure}, box);
     MakePlainFigure(taxSum_);
     AddEarning(column, lblTax_, taxSum_, box);
     figure(TableField::Profit, "Profit");

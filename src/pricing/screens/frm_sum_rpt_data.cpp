@@ -172,7 +172,7 @@ void frmSumRptData::SetSystemTendos() {
         Show(static_cast<TableField>(static_cast<int>(TableField::CLGDB) + i),
              sides[i / count].*ModelTextOrder[i % count]);
     fraModelInfo_->setText(QString::fromStdString(SystemCaption(State().SystemNumber)));
-    lblLabor_->setText(QString::fromStdString(LaborLabel(Project())));
+    ShowCaption(lblLabor_, QString::fromStdString(LaborLabel(Project())));
 }
 
 /// The arithmetic is the working screen's: the text goes there and its field is left there.

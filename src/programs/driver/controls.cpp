@@ -24,6 +24,7 @@
 #include <stdexcept>
 
 #include "platform/qt/form.h"
+#include "platform/qt/mnemonics.h"
 
 namespace tendo::driver {
 namespace {
@@ -100,9 +101,9 @@ std::string TextOfControl(QWidget* control) {
     if (auto* spin = qobject_cast<QAbstractSpinBox*>(control)) return S(spin->text());
     if (Is<QCheckBox>(control) || Is<QRadioButton>(control))
         return qobject_cast<QAbstractButton*>(control)->isChecked() ? "1" : "0";
-    if (auto* button = qobject_cast<QAbstractButton*>(control)) return S(button->text());
+    if (auto* button = qobject_cast<QAbstractButton*>(control)) return S(OwnCaption(button));
     if (auto* combo = qobject_cast<QComboBox*>(control)) return S(combo->currentText());
-    if (auto* label = qobject_cast<QLabel*>(control)) return S(label->text());
+    if (auto* label = qobject_cast<QLabel*>(control)) return S(OwnCaption(label));
     if (auto* group = qobject_cast<QGroupBox*>(control)) return S(group->title());
     if (auto* tabs = qobject_cast<QTabWidget*>(control))
         return S(tabs->tabText(tabs->currentIndex()));

@@ -258,6 +258,7 @@ void frmGPD::AddDatabase(QGridLayout* grid, QWidget* page) {
     WatchField(txtDefDB_);
     connect(txtDefDB_, &QLineEdit::textChanged, this, &frmGPD::txtDefDB_Change);
     QPushButton* browse = MakeButton("btnBrowse", "&Browse...", page);
+    browse->setAccessibleName("Browse for the default database");
     connect(browse, &QPushButton::clicked, this, &frmGPD::btnBrowse_Click);
     grid->addWidget(MakeLabel(spec.label, txtDefDB_, page), row, 0);
     grid->addLayout(Row({txtDefDB_, browse}, false), row, 1);
@@ -276,6 +277,7 @@ void frmGPD::AddImport(QGridLayout* grid, QWidget* page) {
     txtImportFile_ = new TextField(spec, page);
     WatchField(txtImportFile_);
     QPushButton* browse = MakeButton("btnImportFile", "B&rowse...", page);
+    browse->setAccessibleName("Browse for the import file");
     connect(browse, &QPushButton::clicked, this, &frmGPD::btnImportFile_Click);
     grid->addWidget(MakeLabel(spec.label, txtImportFile_, page), row, 0);
     grid->addLayout(Row({txtImportFile_, browse}, false), row, 1);

@@ -95,6 +95,7 @@ class frmHelpInfo : public Form {
         if (info_.notes.empty()) return;
         auto* notes = new QPlainTextEdit(Q(info_.notes), this);
         notes->setObjectName("txtNotes");
+        notes->setAccessibleName("Notes");
         notes->setReadOnly(true);
         column->addWidget(notes);
     }

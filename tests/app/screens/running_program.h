@@ -53,7 +53,7 @@ class RunningProgram : public ProgramHome {
         static char name[] = "test";
         static char* argv[] = {name, nullptr};
         // Never destroyed: at the end of the process the platform behind it is gone first.
-        static auto* application = new QApplication(argc, argv);
+        static auto* application = qApp ? qApp : new QApplication(argc, argv);
         ASSERT_NE(application, nullptr);
         auto service = std::make_unique<AnsweredDialogs>();
         dialogs = service.get();
