@@ -1,11 +1,11 @@
 #include "materials/labor_takeoff.h"
 
 #include <algorithm>
-#include <array>
 #include <span>
 
 #include "pricing/list_base.h"
 #include "pricing/relations.h"
+#include "project/program_state.h"
 #include "project/project_records.h"
 
 namespace tendo {
@@ -22,12 +22,6 @@ float SumOf(float LaborRow::*field) {
     return StoreSingle(sum);
 }
 
-std::array<float, 5> LaborFigures() {
-    const SystemTendosRecord& tendos = Project().SystemTendos;
-    return {tendos.LaborDealerCost, tendos.LaborDealerOverride, tendos.LaborSalePrice,
-            tendos.LaborLDPrice, tendos.TotalLDPrice};
-}
-
 }  // namespace
 
 void SumLabor() {
@@ -40,13 +34,13 @@ void ClearProjectLabor() {
     std::ranges::fill(ProjectLines(), LaborRow());
 }
 
-bool CloseLaborTakeoff() {
-    const auto before = LaborFigures();
-    SumLabor();
+void CloseLaborTakeoff() {
     SystemTendosRecord& tendos = Project().SystemTendos;
+    const SystemTendosRecord before = tendos;
+    SumLabor();
     tendos.LaborLDPrice = tendos.LaborDealerOverride;
     RebuildTotalListBase(tendos);
-    return LaborFigures() != before;
+    if (tendos != before) State().ProjectChanged = true;
 }
 
 }  // namespace tendo

@@ -11,8 +11,8 @@ void SumLabor();
 void ClearProjectLabor();
 
 /// What closing the labor takeoff does to the project's prices: `SumLabor`, then the list base of
-/// the Labor row, which is its cost and not its price, and the total list base. True when any of
-/// these figures changed.
-bool CloseLaborTakeoff();
+/// the Labor row, which is its cost and not its price, and the total list base. The
+/// project counts as changed when one of these figures did.
+void CloseLaborTakeoff();
 
 }  // namespace tendo

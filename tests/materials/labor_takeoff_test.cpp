@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/text/runtime_error.h"
+#include "project/program_state.h"
 #include "project/project_records.h"
 
 namespace tendo {
@@ -10,7 +11,10 @@ namespace {
 
 class LaborTakeoff : public testing::Test {
   protected:
-    void TearDown() override { Project() = ProjectRecords(); }
+    void TearDown() override {
+        Project() = ProjectRecords();
+        State() = ProgramState();
+    }
 
     std::vector<LaborRow>& rows = Project().ProjectLabor;
     SystemTendosRecord& tendos = Project().SystemTendos;
@@ -54,17 +58,18 @@ TEST_F(LaborTakeoff, TheListBaseOfLaborIsItsCostAndNotItsPrice) {
     tendos.TaxMatLDPrice = 200;
     tendos.NonTaxLDPrice = 50;
     tendos.TaxSalePrice = 99;
-    EXPECT_TRUE(CloseLaborTakeoff());
+    CloseLaborTakeoff();
     EXPECT_EQ(tendos.LaborLDPrice, 400);
     EXPECT_EQ(tendos.TotalLDPrice, 1749);  // 1000 + 200 + 50 + 400 + 99
 }
 
-TEST_F(LaborTakeoff, ClosingTellsWhetherTheFiguresMoved) {
+TEST_F(LaborTakeoff, ClosingChangesTheProjectWhenAFigureMoved) {
     rows[0] = {10, "Set condenser", 40, 400, 25, 33.3F, 533.33F};
-    EXPECT_TRUE(CloseLaborTakeoff());
-    EXPECT_FALSE(CloseLaborTakeoff());
-    rows[0].LaborPrice = 600;
-    EXPECT_TRUE(CloseLaborTakeoff());
+    CloseLaborTakeoff();
+    EXPECT_TRUE(State().ProjectChanged);
+    State().ProjectChanged = false;
+    CloseLaborTakeoff();
+    EXPECT_FALSE(State().ProjectChanged);
 }
 
 }  // namespace

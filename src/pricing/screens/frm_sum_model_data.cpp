@@ -93,6 +93,13 @@ void frmSumModelData::Refill() {
     SystemMoved();
 }
 
+void frmSumModelData::TakeTotals() {
+    Refill();
+    table_.GetSystemTendos();
+    table_.RecalcSubTotalSalePrice();
+    ShowSurroundings();
+}
+
 void frmSumModelData::FollowSystem() {
     if (shownSystem_ == State().SystemNumber) return ShowSurroundings();
     Refill();

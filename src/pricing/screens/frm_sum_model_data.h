@@ -30,6 +30,9 @@ class frmSumModelData : public Form {
     PriceTable& Table() { return table_; }
     /// Records to screen, after another screen changed them.
     void Refill();
+    /// The same after the material or labor takeoff set its rows: what was typed there is stored
+    /// anew, and the sub-total follows.
+    void TakeTotals();
     /// The current system as it stands in the program's state, if another screen moved on.
     void FollowSystem();
 

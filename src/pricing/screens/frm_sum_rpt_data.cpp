@@ -221,4 +221,14 @@ void RefillPriceScreens() {
         view->SetSystemTendos();
 }
 
+/// The view comes last: it shows the records, and the total follows on the working screen.
+void RecalculateSystemScreens() {
+    if (auto* screen = qobject_cast<frmSumModelData*>(Form::Find("frmSumModelData")))
+        screen->TakeTotals();
+    else
+        RecalcClosedPriceTable(Project());
+    if (auto* view = qobject_cast<frmSumRptData*>(Form::Find("frmSumRptData")))
+        view->SetSystemTendos();
+}
+
 }  // namespace tendo

@@ -43,4 +43,8 @@ class frmSumRptData : public Form {
 /// Refills both price screens, each if it is loaded, after something else changed the records.
 void RefillPriceScreens();
 
+/// What closing the material and the labor takeoff does at its end: the price screens take the rows
+/// that were set in the records, and the totals follow, also when no price screen is open.
+void RecalculateSystemScreens();
+
 }  // namespace tendo

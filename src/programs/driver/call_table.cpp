@@ -1,4 +1,8 @@
 #include "equipment/model_database.h"
+#include "materials/labor_lists.h"
+#include "materials/labor_takeoff.h"
+#include "materials/material_lists.h"
+#include "materials/takeoff_sums.h"
 #include "platform/text/number_text.h"
 #include "pricing/relations.h"
 #include "programs/driver/session.h"
@@ -66,6 +70,27 @@ const ProcedureEntry procedures[] = {
      [](const Words& a) -> Json {
          LoadProjectData(a[0]);
          return nullptr;
+     }},
+    {"SumLabor", 0,
+     [](const Words&) -> Json {
+         SumLabor();
+         return nullptr;
+     }},
+    {"SumMaterials", 0,
+     [](const Words&) -> Json {
+         SumMaterials();
+         return nullptr;
+     }},
+    {"ClearProjectLabor", 0,
+     [](const Words&) -> Json {
+         ClearProjectLabor();
+         return nullptr;
+     }},
+    {"ApplyLaborList", 1, [](const Words& a) -> Json { return ApplyLaborList(a[0]); }},
+    {"ApplyMaterialList", 1,
+     [](const Words& a) -> Json {
+         std::string name = a[0];
+         return ApplyMaterialList(name);
      }},
     {"MakeFileExtensions", 0,
      [](const Words&) -> Json {
