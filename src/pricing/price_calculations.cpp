@@ -31,6 +31,10 @@ float& PriceTable::ListBase(int row) {
     return records_.SystemTendos.*Rows[row - 1].listBase;
 }
 
+float PriceTable::ListBaseOf(int priceRow) const {
+    return records_.SystemTendos.*Rows[priceRow - 1].listBase;
+}
+
 void PriceTable::TendoCalculations(int priceField, int priceRow) {
     if (LoadInProgress) return;
     if (priceRow >= price_row::Model && priceRow <= LastGridRow) CalculateRow(priceField, priceRow);
@@ -63,11 +67,13 @@ void PriceTable::CalculateRow(int priceField, int priceRow) {
             ShowMarkup(priceRow, cost);
             return ShowDiscount(priceRow);
         case price_field::GrossMargin:
+            Trace(priceRow, {PriceOrigin::FromMargin, cost, exact(FieldKind::GrossMargin)});
             ShowResult(sale, MoneyPicture,
                        [&] { return SaleFromGrossMargin(cost, exact(FieldKind::GrossMargin)); });
             ShowMarkup(priceRow, cost);
             return ShowDiscount(priceRow);
         case price_field::PriceMarkup:
+            Trace(priceRow, {PriceOrigin::FromMarkup, cost, exact(FieldKind::PriceMarkup)});
             ShowResult(sale, MoneyPicture,
                        [&] { return SaleFromMarkup(cost, exact(FieldKind::PriceMarkup)); });
             // The markup of taxable materials sets the Model row's margin from the Model row's
@@ -79,6 +85,8 @@ void PriceTable::CalculateRow(int priceField, int priceRow) {
             }
             return ShowDiscount(priceRow);
         case price_field::ListDiscount:
+            Trace(priceRow,
+                  {PriceOrigin::FromDiscount, ListBase(priceRow), exact(FieldKind::ListDiscount)});
             ShowResult(sale, MoneyPicture, [&] {
                 return SaleFromListDiscount(ListBase(priceRow), exact(FieldKind::ListDiscount));
             });
@@ -123,6 +131,7 @@ void PriceTable::TakeDefaultMargin(int row, float cost) {
                                            UnsetDefaultMargin);
     });
     const float margin = Value(marginField);  // with the one decimal shown
+    Trace(row, {PriceOrigin::FromDefaultMargin, cost, margin});
     ShowResult(sale, MoneyPicture, [&] { return SaleFromGrossMargin(cost, margin); });
     if (row == price_row::Model) ListBase(row) = Value(sale);
     Attempt(Calculations, [&] { RecalcSubTotalSalePrice(); });
@@ -137,10 +146,16 @@ void PriceTable::CalculateTotalRow(int priceField) {
     float& margin = Exact(TableField::TotalGrossMargin);
     if (priceField == price_field::GrossMargin) {
         if (noTotal) margin = 0;
-        ShowResult(TableField::TotalSalePrice, MoneyPicture,
-                   [&] { return SaleFromGrossMargin(taxedSubTotal(), margin); });
+        ShowResult(TableField::TotalSalePrice, MoneyPicture, [&] {
+            const float base = taxedSubTotal();
+            Trace(price_row::Total, {PriceOrigin::FromMargin, base, margin});
+            return SaleFromGrossMargin(base, margin);
+        });
     } else if (priceField == price_field::SalePrice) {
-        if (noTotal) ShowResult(TableField::TotalSalePrice, MoneyPicture, taxedSubTotal);
+        if (noTotal) {
+            Trace(price_row::Total, {.origin = PriceOrigin::FromRows});
+            ShowResult(TableField::TotalSalePrice, MoneyPicture, taxedSubTotal);
+        }
         ShowResult(TableField::TotalGrossMargin, PercentPicture, [&] {
             const float untaxed = StoreSingle(static_cast<double>(taxedSubTotal()) - tax);
             return GrossMarginFromSale(untaxed, Value(TableField::TotalSalePrice));
@@ -219,6 +234,7 @@ void PriceTable::RecalcTotalSalePrice() {
         sum += Value(RowField(row, FieldKind::SalePrice));
     }
     records_.SystemTendos.TotalSalePrice = StoreSingle(sum);
+    Trace(price_row::Total, {.origin = PriceOrigin::FromRows});
     Show(TableField::TotalSalePrice, records_.SystemTendos.TotalSalePrice, MoneyPicture);
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "project/project_records.h"
@@ -101,6 +102,12 @@ const FieldDescription& Describe(TableField field);
 
 /// The field of a control's name ("txtLaborSalesPrice"); nothing for an unknown one.
 std::optional<TableField> TableFieldByName(std::string_view name);
+
+/// What a field is called where it stands alone: "Gross margin of labor", "Cooling quantity".
+std::string FieldTitle(TableField field);
+
+/// What a row (1 to 4) is called within a sentence: "taxable materials".
+const char* RowTitle(int priceRow);
 
 /// The field of a row (1 to 4) by its column, DealerCost to SalePrice.
 TableField RowField(int priceRow, FieldKind column);

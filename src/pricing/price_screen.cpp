@@ -33,6 +33,7 @@ void PriceTable::Open() {
     texts_.fill({});
     values_.fill(0);
     modelTextEdited_.fill(false);
+    traces_.fill({});
     EditedGrossMargin.fill(0);
     EditedPriceMarkup.fill(0);
     EditedListDiscount.fill(0);
@@ -46,7 +47,7 @@ void PriceTable::Open() {
     Guard("Form_Load", [&] {
         // The refill recomputed both; a saved total that was typed must come back.
         tendos.TotalSalePrice = savedTotal;
-        Show(TableField::TotalSalePrice, savedTotal, MoneyPicture);
+        WriteSalePrice(TableField::TotalSalePrice);
         Show(TableField::Profit, savedProfit, MoneyPicture);
     });
     DoAllMiddleItemsAtLoadTime();
@@ -72,7 +73,7 @@ void PriceTable::SetSystemTendos() {
         Attempt(Refill, [&] { ShowMoney(cost, tendos.*Describe(cost).column); });
     }
     WriteOverrides();
-    Attempt(Refill, [&] { ShowMoney(TableField::ModelSalePrice, tendos.ModelSalePrice); });
+    WriteSalePrice(TableField::ModelSalePrice);
     // As money, not as a percentage: so it stands until a recalculation rewrites it.
     Attempt(Refill, [&] { ShowMoney(TableField::ModelListDiscount, tendos.ModelListDiscount); });
     Exact(TableField::ModelListDiscount) = Value(TableField::ModelListDiscount);
@@ -98,12 +99,20 @@ void PriceTable::WriteOverrides() {
             [&] { WriteSame(TableField::TotalDealerCost, TableField::TotalDealerOverride); });
 }
 
+/// A price that stands as it was keeps its origin.
+void PriceTable::WriteSalePrice(TableField field) {
+    const FieldDescription& description = Describe(field);
+    const float before = Value(field);
+    Attempt(Refill, [&] { ShowMoney(field, records_.SystemTendos.*description.column); });
+    if (description.row != price_row::None && Value(field) != before) Trace(description.row, {});
+}
+
 void PriceTable::WriteSalePrices() {
     const SystemTendosRecord& tendos = records_.SystemTendos;
     for (const TableField field :
          {TableField::TaxMatSalePrice, TableField::NonTaxSalePrice, TableField::LaborSalePrice,
           TableField::TaxSalePrice, TableField::TotalSalePrice}) {
-        Attempt(Refill, [&] { ShowMoney(field, tendos.*Describe(field).column); });
+        WriteSalePrice(field);
     }
     Attempt(Refill, [&] { Show(TableField::TaxPercentage, tendos.TaxPercentage, TaxPicture); });
 }

@@ -28,8 +28,20 @@ float PriceTable::Value(TableField field) const {
     return values_[Index(field)];
 }
 
+const PriceTrace& PriceTable::TraceOf(int priceRow) const {
+    return traces_.at(static_cast<std::size_t>(priceRow - 1));
+}
+
+void PriceTable::Trace(int priceRow, const PriceTrace& trace) {
+    traces_.at(static_cast<std::size_t>(priceRow - 1)) = trace;
+}
+
 void PriceTable::SetText(TableField field, const std::string& text) {
-    if (text != Text(field)) modelTextEdited_[Index(field)] = true;
+    if (text == Text(field)) return;
+    modelTextEdited_[Index(field)] = true;
+    const FieldKind kind = Describe(field).kind;
+    if (kind == FieldKind::SalePrice || kind == FieldKind::TotalSalePrice)
+        Trace(Describe(field).row, {.origin = PriceOrigin::Entered});
     Guard(std::string(Describe(field).name) + "_Change", [&] { Write(field, text); });
 }
 
@@ -120,6 +132,7 @@ void PriceTable::KeepExact(TableField field) {
 void PriceTable::ProfitChanged() {
     const float subTotal = Value(TableField::SubTotalSalePrice);
     if (Value(TableField::TotalSalePrice) == 0 && subTotal != 0) {
+        Trace(price_row::Total, {.origin = PriceOrigin::FromSubTotal});
         Show(TableField::TotalSalePrice, subTotal, MoneyPicture);
     }
     // Here the tax is taken off the total first; the Total row's own recalculation leaves it in.

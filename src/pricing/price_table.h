@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -22,6 +23,26 @@ inline constexpr int Nothing = 0, DealerCost = 1, DealerOverride = 2, GrossMargi
                      PriceMarkup = 4, ListDiscount = 5, SalePrice = 6;
 }  // namespace price_field
 
+/// How a sale price came about.
+enum class PriceOrigin : std::uint8_t {
+    Filled,  // from the project: saved, or left by the model, material and labor screens
+    Entered,
+    FromMargin,
+    FromMarkup,
+    FromDiscount,
+    FromDefaultMargin,
+    FromRows,     // the total: all rows and the tax
+    FromSubTotal  // the total: a zero one filled in
+};
+
+/// A sale price's origin, and what it was calculated from when it was: the cost, list base or taxed
+/// sub-total in dollars, and the exact percentage.
+struct PriceTrace {
+    PriceOrigin origin = PriceOrigin::Filled;
+    float base = 0;
+    float percent = 0;
+};
+
 /// The project's price table as the screen shows it: the texts of all its fields, and what runs
 /// when one changes or is left. All values pass through the texts, so the display's rounding is
 /// part of the arithmetic. A text written again as it stands causes nothing; that ends the
@@ -42,6 +63,11 @@ class PriceTable {
     const std::string& Text(TableField field) const;
     /// The number that a price field's text reads as.
     float Value(TableField field) const;
+
+    /// How the sale price of a row (1 to 5) came about.
+    const PriceTrace& TraceOf(int priceRow) const;
+    /// What the list discount of a row (1 to 4) is measured against, in dollars.
+    float ListBaseOf(int priceRow) const;
 
     /// What typing and code do to a field: its text, then its change event.
     void SetText(TableField field, const std::string& text);
@@ -97,6 +123,7 @@ class PriceTable {
     void KeepExact(TableField field);
     void ProfitChanged();
     float& Exact(TableField field);
+    void Trace(int priceRow, const PriceTrace& trace);
 
     // Leaving a field (price_commit.cpp).
     void RunCommit(TableField field);
@@ -123,6 +150,7 @@ class PriceTable {
 
     // Records to texts and back (price_screen.cpp).
     void WriteOverrides();
+    void WriteSalePrice(TableField field);
     void WriteSalePrices();
     void ShowModels();
     void StoreModelTexts();
@@ -137,6 +165,7 @@ class PriceTable {
     std::array<std::string, TableFieldCount> texts_;
     std::array<float, TableFieldCount> values_{};
     std::array<bool, TableFieldCount> modelTextEdited_{};
+    std::array<PriceTrace, 5> traces_{};
     bool open_ = false;
 };
 

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "pricing/price_reason.h"
+
+namespace tendo {
+
+/// The price line of a single model as it stands: prices of one unit in dollars, and the six texts
+/// shown, DealerCost to SalePrice.
+struct ModelPriceFacts {
+    std::string model;     // "cooling model FA-3614 of system 1"
+    std::string database;  // its name as the model keeps it; may be empty
+    int quantity = 1;
+    float dealerCost = 0, dealerOverride = 0, salePrice = 0, listPrice = 0;
+    std::array<std::string, 6> texts;
+    PriceTrace trace;  // how the sale price came about since the line was filled
+};
+
+/// Why a column of a single model's price line shows what it shows.
+PriceReason WhyModelPrice(const ModelPriceFacts& facts, FieldKind column);
+
+}  // namespace tendo

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "pricing/price_reason.h"
+
+namespace tendo {
+
+/// Why a field of one of the four rows shows what it shows.
+PriceReason WhyRowPrice(const PriceTable& table, const ProjectRecords& records, TableField field);
+
+/// Why a field of the tax, the totals or the earnings shows what it shows.
+PriceReason WhyTotal(const PriceTable& table, const ProjectRecords& records, TableField field);
+
+/// A figure of the table as a part: its title, its text, its source.
+PriceReason::Part TablePart(const PriceTable& table, TableField field, std::string source);
+
+/// True when a percentage field shows this percentage.
+bool ShowsPercent(const PriceTable& table, TableField field, float percent);
+
+}  // namespace tendo
