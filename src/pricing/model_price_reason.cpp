@@ -5,6 +5,7 @@
 
 #include "platform/text/number_text.h"
 #include "platform/text/runtime_error.h"
+#include "pricing/price_formulas.h"
 #include "pricing/priced_models.h"
 #include "pricing/relations.h"
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "pricing/price_reason.h"
+#include "pricing/price_table.h"
 
 namespace tendo {
 

@@ -3,10 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "pricing/price_fields.h"
-#include "pricing/price_formulas.h"
-#include "pricing/price_table.h"
-
 namespace tendo {
 
 /// Where a price figure comes from, told to the user who asks.
@@ -28,13 +24,5 @@ struct PriceReason {
 
 /// The same in lines of text.
 std::string PlainText(const PriceReason& reason);
-
-/// Why a field of the price table (txtModelDealerCost to txtSuperProfit) shows what it shows; a
-/// title and a figure only for a field of the lower half. The table must be open.
-PriceReason WhyPrice(const PriceTable& table, const ProjectRecords& records, TableField field);
-
-/// The same for the customer's eyes: no costs, and nothing that they follow from.
-PriceReason WhyCustomerPrice(const PriceTable& table, const ProjectRecords& records,
-                             TableField field);
 
 }  // namespace tendo

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "pricing/price_formulas.h"
 #include "pricing/price_reason.h"
+#include "pricing/price_table.h"
 
 namespace tendo {
 

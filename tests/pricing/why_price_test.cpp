@@ -1,5 +1,4 @@
-#include "pricing/price_reason.h"
-
+#include "pricing/why_price.h"
 #include "price_table_fixture.h"
 
 namespace tendo {
