@@ -5,6 +5,7 @@
 #include "app/profile_defaults.h"
 #include "materials/material_catalogue.h"
 #include "platform/files/ini_file_handler.h"
+#include "platform/files/leftovers.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
 #include "platform/files/settings_store.h"
@@ -37,6 +38,8 @@ void BeginStartup(const StartPlaces& places) {
     state.ProjectsDirectory = WithSeparator(state.ProgramDirectory + "Projects");
     state.WinIniFile = places.winIni.empty() ? state.ProgramDirectory + "WIN.INI" : places.winIni;
     Settings().FileName = state.ProgramDirectory + "settings.ini";
+    RemoveLeftovers(state.ProgramDirectory);
+    RemoveLeftovers(state.ProjectsDirectory);
     FillProgramDirectory(state.ProgramDirectory, SharedFilesDirectory(places.executable),
                          state.WinIniFile);
 }

@@ -1,6 +1,7 @@
 #include "platform/files/safe_file.h"
 
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -103,6 +104,42 @@ TEST_F(SafeFile, KeepsThePermissions) {
     ::chmod(Path("a").c_str(), 0604);
     ReplaceFile(Path("a"), "new");
     EXPECT_EQ(Mode("a"), 0604u);
+}
+
+TEST_F(SafeFile, KeepsTheUsersOwnAttributes) {
+    Put("a", "old");
+    if (::setxattr(Path("a").c_str(), "user.note", "paid", 4, 0) != 0)
+        GTEST_SKIP() << "this disk keeps no attributes";
+    ReplaceFile(Path("a"), "new");
+    char value[16] = {};
+    EXPECT_EQ(::getxattr(Path("a").c_str(), "user.note", value, sizeof value), 4);
+    EXPECT_STREQ(value, "paid");
+}
+
+TEST_F(SafeFile, KeepsTheAccessControlList) {
+    Put("a", "old");
+    ::chmod(Path("a").c_str(), 0640);
+    // Version 2; tag, rights and id of: the owner rw, user 4242 rw, the group r, the mask rw,
+    // others nothing.
+    const unsigned char list[] = {2, 0,   0,   0,   1,   0,   6,  0, 255, 255, 255, 255, 2,   0,  6,
+                                  0, 146, 16,  0,   0,   4,   0,  4, 0,   255, 255, 255, 255, 16, 0,
+                                  6, 0,   255, 255, 255, 255, 32, 0, 0,   0,   255, 255, 255, 255};
+    constexpr const char* attribute = "system.posix_acl_access";
+    if (::setxattr(Path("a").c_str(), attribute, list, sizeof list, 0) != 0)
+        GTEST_SKIP() << "this disk keeps no access control lists";
+    ReplaceFile(Path("a"), "new");
+    unsigned char kept[sizeof list] = {};
+    EXPECT_EQ(::getxattr(Path("a").c_str(), attribute, kept, sizeof kept),
+              static_cast<ssize_t>(sizeof list));
+    EXPECT_TRUE(std::equal(std::begin(list), std::end(list), std::begin(kept)));
+}
+
+TEST_F(SafeFile, AFurtherNameOfTheFileKeepsTheOldContent) {
+    Put("a", "old");
+    std::filesystem::create_hard_link(Path("a"), Path("b"));
+    ReplaceFile(Path("a"), "new");
+    EXPECT_EQ(Get("a"), "new");
+    EXPECT_EQ(Get("b"), "old");
 }
 
 TEST_F(SafeFile, FollowsASymbolicLink) {

@@ -1,5 +1,7 @@
 #include "platform/files/open_file.h"
 
+#include <sys/xattr.h>
+
 #include <cerrno>
 #include <utility>
 
@@ -62,6 +64,10 @@ void OpenFile::SetMode(mode_t mode) {
 
 void OpenFile::TryOwner(uid_t owner, gid_t group) {
     SystemCalls().fchown(file_, owner, group);
+}
+
+void OpenFile::TryAttribute(const char* name, std::string_view value) {
+    ::fsetxattr(file_, name, value.data(), value.size(), 0);
 }
 
 void OpenFile::Close() {

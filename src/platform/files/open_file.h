@@ -25,6 +25,8 @@ class OpenFile {
     void SetMode(mode_t mode);
     /// Tries to give the file to an owner; only the administrator may in general.
     void TryOwner(uid_t owner, gid_t group);
+    /// Tries to set an extended attribute; not every disk keeps any.
+    void TryAttribute(const char* name, std::string_view value);
     void Close();
 
   private:

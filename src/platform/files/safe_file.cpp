@@ -1,11 +1,16 @@
 #include "platform/files/safe_file.h"
 
+#include <sys/file.h>
+#include <sys/xattr.h>
+
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <utility>
 #include <vector>
 
 #include "platform/files/file_error.h"
+#include "platform/files/leftovers.h"
 #include "platform/files/open_file.h"
 #include "platform/files/paths.h"
 #include "platform/text/runtime_error.h"
@@ -88,13 +93,13 @@ class NewFile {
 
   private:
     int Create(mode_t mode) {
-        static unsigned counter = 0;
         for (int i = 0; i < NameAttempts; ++i) {
-            const std::string name = directory_ + ".tendo-" + std::to_string(::getpid()) + "-" +
-                                     std::to_string(++counter) + ".new";
+            const std::string name = NewFileName(directory_);
             const int file =
                 SystemCalls().open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
             if (file >= 0) name_ = name;
+            // Tells other machines on a shared folder that somebody is at work on it.
+            if (file >= 0) ::flock(file, LOCK_EX | LOCK_NB);
             if (file >= 0 || errno != EEXIST) return file;
         }
         return -1;
@@ -105,6 +110,12 @@ class NewFile {
     std::string shownPath_;
     OpenFile file_;
 };
+
+constexpr std::size_t LongestAttribute = std::size_t{64} << 10;
+
+bool IsKeptAttribute(std::string_view name) {
+    return name == "system.posix_acl_access" || name.starts_with("user.");
+}
 
 /// Makes the rename last through a power cut. Its failure is no failure of the write: the new file
 /// is whole and in its place, and a power cut would bring back the old one, whole too.
@@ -132,6 +143,21 @@ void WriteToSpecialFile(const std::string& target, std::string_view shownPath,
                   std::string(shownPath));
     WritePieces(file, write);
     file.Close();
+}
+
+/// Access control lists and the user's own attributes go along where the disk knows them.
+void KeepAttributes(const std::string& from, OpenFile& to) {
+    std::vector<char> names(
+        static_cast<std::size_t>(std::max<ssize_t>(0, ::listxattr(from.c_str(), nullptr, 0))));
+    const ssize_t length =
+        names.empty() ? 0 : ::listxattr(from.c_str(), names.data(), names.size());
+    std::vector<char> value(LongestAttribute);
+    for (const char* name = names.data(); name < names.data() + length;
+         name += ::strlen(name) + 1) {
+        if (!IsKeptAttribute(name)) continue;
+        const ssize_t size = ::getxattr(from.c_str(), name, value.data(), value.size());
+        if (size >= 0) to.TryAttribute(name, {value.data(), static_cast<std::size_t>(size)});
+    }
 }
 
 void KeepOwnerAndMode(OpenFile& file, const struct stat& old) {
@@ -179,7 +205,10 @@ void ReplaceFileInPieces(std::string_view path,
     NewFile fresh(DirectoryOf(target), path, old.exists ? 0600 : 0666);
     OpenFile& file = fresh.File();
     const std::uint64_t size = WritePieces(file, write);
-    if (old.exists) KeepOwnerAndMode(file, old.info);
+    if (old.exists) {
+        KeepOwnerAndMode(file, old.info);
+        KeepAttributes(target, file);  // after the mode, which would change the list
+    }
     file.Flush();
     if (static_cast<std::uint64_t>(file.Info().st_size) != size) {
         ThrowFileError("write", path, error_number::DeviceError,
