@@ -6,9 +6,11 @@
 #include <utility>
 
 #include "platform/files/ini_file_handler.h"
+#include "platform/files/leftovers.h"
 #include "platform/files/paths.h"
 #include "platform/files/profile.h"
 #include "platform/files/safe_file.h"
+#include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
 #include "project/program_state.h"
 #include "project/project_file.h"
@@ -21,28 +23,29 @@ namespace {
 constexpr int MostRecentFiles = 20;
 constexpr std::size_t ExtensionLength = 4;
 
+/// The name without its last four characters, which are the extension.
 std::string WithoutExtension(const std::string& fileName) {
-    return fileName.substr(0, fileName.size() - std::min(fileName.size(), ExtensionLength));
+    const std::size_t length = CharacterCount(fileName);
+    return std::string(FirstCharacters(fileName, length - std::min(length, ExtensionLength)));
 }
 
-/// The full name of AUTOLOAD.TDW however its letters are written; empty when there is none.
-std::string AutoloadFile() {
-    for (const std::string& name : FilesIn(State().ProjectsDirectory)) {
-        if (EqualsNoCase(name, "AUTOLOAD.TDW")) return State().ProjectsDirectory + name;
+/// A new project file with the rows of the records. It gets its name when it is filled: one without
+/// rows must never be found by the next start, which could not open it.
+void WriteRecordsTo(const std::string& fileName) {
+    std::string filling = NewFileName(DirectoryOf(fileName)) + ".tmp";
+    try {
+        CreateProjectDatabase(filling);
+        SaveProjectData(filling);
+        CopyFileOver(filling, fileName);
+    } catch (const RuntimeError&) {
+        DeleteFileIfThere(filling);
+        throw;
     }
-    return {};
+    DeleteFileIfThere(filling);
 }
 
-/// A new work file with the rows of the reset records. It gets its name when it is filled: one
-/// without rows must never be found by the next start, which could not open it.
 void MakeWorkFile() {
-    if (FileExists(State().WorkFileName)) return;
-    std::string filling = WithoutExtension(State().WorkFileName) + ".new.tmp";
-    DeleteFileIfThere(filling);
-    CreateProjectDatabase(filling);
-    SaveProjectData(filling);
-    CopyFileOver(filling, State().WorkFileName);
-    DeleteFileIfThere(filling);
+    if (!FileExists(State().WorkFileName)) WriteRecordsTo(State().WorkFileName);
 }
 
 std::string RecentFileKey(int index) {
@@ -51,9 +54,13 @@ std::string RecentFileKey(int index) {
 
 }  // namespace
 
+std::string WorkFileOf(const std::string& fileName) {
+    return WithoutExtension(fileName) + ".tmp";
+}
+
 void MakeFileExtensions() {
     const std::string stem = WithoutExtension(State().ProjectFileName);
-    State().WorkFileName = stem + ".tmp";
+    State().WorkFileName = WorkFileOf(State().ProjectFileName);
     if (UpperCase(stem) != "UNTITLED") State().BackupFileName = stem + ".bak";
 }
 
@@ -68,6 +75,29 @@ void LoadWorkFile() {
 
 void SaveWorkFile() {
     SaveProjectData(State().WorkFileName);
+}
+
+void RestoreWorkFile() {
+    if (State().ProjectIsOpen) MakeWorkFile();
+}
+
+void SaveProjectAs(const std::string& fileName) {
+    const std::string oldWorkFile = State().WorkFileName;
+    const std::string workFile = WorkFileOf(fileName);
+    if (FileExists(oldWorkFile))
+        CopyFileOver(oldWorkFile, fileName);
+    else
+        WriteRecordsTo(fileName);
+    CopyFileOver(fileName, workFile);
+    State().ProjectFileName = fileName;
+    MakeFileExtensions();
+    RememberProjectFile();
+    if (oldWorkFile == workFile) return;
+    try {
+        DeleteFileIfThere(oldWorkFile);
+    } catch (const RuntimeError&) {
+        // The project is saved; the copy that stays is offered when its own project is opened.
+    }
 }
 
 void RememberProjectFile() {
@@ -87,11 +117,8 @@ std::string ProjectCaption() {
 void CopyAutoloadProject() {
     ResetProjectData();
     const bool wanted = Ini().MyGetAppProfileInteger("Options", "NewProjectsCopyAutoload", 0) != 0;
-    const std::string autoload = wanted ? AutoloadFile() : std::string();
-    if (autoload.empty()) {
-        MakeWorkFile();
-        return;
-    }
+    const std::string autoload = FileInAnyCase(State().ProjectsDirectory, "AUTOLOAD.TDW");
+    if (!wanted || !FileExists(autoload)) return MakeWorkFile();
     LoadProjectData(autoload);
     CopyFileOver(autoload, State().WorkFileName);
 }
@@ -105,8 +132,9 @@ int RecentFileCount() {
 std::vector<std::string> RecentFiles() {
     std::vector<std::string> names(static_cast<std::size_t>(RecentFileCount()));
     for (std::size_t i = 0; i < names.size(); ++i) {
-        names[i] =
-            Ini().MyGetAppProfileString("RecentFiles", RecentFileKey(static_cast<int>(i)), "");
+        // Read whole: a path that is cut at the usual 255 characters leads nowhere.
+        names[i] = ReadProfileString(Ini().AppProfileFileName, "RecentFiles",
+                                     RecentFileKey(static_cast<int>(i)), "");
     }
     return names;
 }

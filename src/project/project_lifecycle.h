@@ -8,6 +8,9 @@ namespace tendo {
 /// The work of the File commands that needs no screen. The user's file is never edited: it is
 /// copied to a work file beside it, all saving goes there, and Save copies the work file back.
 
+/// The work file of a project file: its name less the last four characters, and ".tmp".
+std::string WorkFileOf(const std::string& fileName);
+
 /// Sets `WorkFileName` and `BackupFileName` from `ProjectFileName`. No command uses the backup
 /// name.
 void MakeFileExtensions();
@@ -20,6 +23,14 @@ void LoadWorkFile();
 
 /// Saves the records to the work file; nothing when there is none.
 void SaveWorkFile();
+
+/// Makes the open project's work file anew from the records where it is gone: a close deleted it,
+/// or its folder was away. A save needs it.
+void RestoreWorkFile();
+
+/// Gives the open project another file and a work file beside that. When something fails before
+/// both are written, names and files are as they were.
+void SaveProjectAs(const std::string& fileName);
 
 /// Remembers the user's file as it stands on disk, after it was read or written.
 void RememberProjectFile();

@@ -95,5 +95,14 @@ TEST_F(Paths, OneFileHasOneCanonicalPath) {
     EXPECT_EQ(CanonicalPath(Path("not/there")), CanonicalPath(folder_) + "/not/there");
 }
 
+TEST_F(Paths, FilesOfAFolderAreFoundHoweverTheirLettersAreWritten) {
+    Put("VELMO.HLP", "x");
+    EXPECT_EQ(FileInAnyCase(folder_ + "/", "Velmo.hlp"), Path("VELMO.HLP"));
+    Put("Velmo.hlp", "x");
+    EXPECT_EQ(FileInAnyCase(folder_ + "/", "Velmo.hlp"), Path("Velmo.hlp"));
+    EXPECT_EQ(FileInAnyCase(folder_ + "/", "Other.hlp"), Path("Other.hlp"));
+    EXPECT_EQ(FileInAnyCase("/no/such/", "Other.hlp"), "/no/such/Other.hlp");
+}
+
 }  // namespace
 }  // namespace tendo

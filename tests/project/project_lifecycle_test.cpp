@@ -30,6 +30,71 @@ TEST_F(Lifecycle, ANameShorterThanAnExtensionLeavesNothingBefore) {
     EXPECT_EQ(State().WorkFileName, ".tmp");
 }
 
+TEST_F(Lifecycle, TheExtensionsFourCharactersMayBeOfAnyAlphabet) {
+    State().ProjectFileName = "/jobs/Дом.тдв";
+    MakeFileExtensions();
+    EXPECT_EQ(State().WorkFileName, "/jobs/Дом.tmp");
+    EXPECT_EQ(WorkFileOf("/jobs/a.b.c.TDW"), "/jobs/a.b.c.tmp");
+}
+
+TEST_F(Lifecycle, SavingWithoutAWorkFileDoesNothing) {
+    State().WorkFileName = PathOf("a.tmp");
+    SaveWorkFile();
+    EXPECT_FALSE(FileExists(State().WorkFileName));
+}
+
+TEST_F(Lifecycle, AWorkFileThatIsGoneIsMadeAnewFromTheRecords) {
+    State().WorkFileName = PathOf("a.tmp");
+    Project().GPDProjectFormat.Title = "Typed";
+    RestoreWorkFile();
+    EXPECT_FALSE(FileExists(State().WorkFileName)) << "no project is open";
+    State().ProjectIsOpen = true;
+    RestoreWorkFile();
+    Project() = ProjectRecords{};
+    LoadWorkFile();
+    EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "Typed");
+    WriteFile(State().WorkFileName, "there");
+    RestoreWorkFile();
+    EXPECT_EQ(Bytes(State().WorkFileName), "there");
+}
+
+TEST_F(Lifecycle, SaveAsMovesTheWorkFileAlong) {
+    State().ProjectFileName = PathOf("Old.tdw");
+    MakeFileExtensions();
+    WriteFile(State().WorkFileName, "work");
+    SaveProjectAs(PathOf("New.tdw"));
+    EXPECT_EQ(Bytes(PathOf("New.tdw")), "work");
+    EXPECT_EQ(Bytes(PathOf("New.tmp")), "work");
+    EXPECT_FALSE(FileExists(PathOf("Old.tmp")));
+    EXPECT_EQ(State().ProjectFileName, PathOf("New.tdw"));
+    EXPECT_EQ(State().WorkFileName, PathOf("New.tmp"));
+    // The same name once more.
+    SaveProjectAs(PathOf("New.tdw"));
+    EXPECT_EQ(Bytes(PathOf("New.tmp")), "work");
+}
+
+TEST_F(Lifecycle, SaveAsWithoutAWorkFileWritesTheRecords) {
+    State().ProjectFileName = PathOf("gone/Old.tdw");
+    MakeFileExtensions();
+    Project().GPDProjectFormat.Title = "On a disk that was taken out";
+    SaveProjectAs(PathOf("New.tdw"));
+    Project() = ProjectRecords{};
+    LoadWorkFile();
+    EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "On a disk that was taken out");
+    EXPECT_EQ(Bytes(PathOf("New.tdw")), Bytes(PathOf("New.tmp")));
+}
+
+TEST_F(Lifecycle, ASaveAsThatFailsHalfwayLeavesNamesAndWorkFile) {
+    State().ProjectFileName = PathOf("Old.tdw");
+    MakeFileExtensions();
+    WriteFile(State().WorkFileName, "work");
+    std::filesystem::create_directory(PathOf("New.tmp"));  // where the work file should go
+    EXPECT_NE(ErrorOf([&] { SaveProjectAs(PathOf("New.tdw")); }), 0);
+    EXPECT_EQ(State().ProjectFileName, PathOf("Old.tdw"));
+    EXPECT_EQ(State().WorkFileName, PathOf("Old.tmp"));
+    EXPECT_EQ(Bytes(PathOf("Old.tmp")), "work");
+}
+
 TEST_F(Lifecycle, DeletingAWorkFileThatIsNotThereIsNoError) {
     DeleteWorkFile();
     State().WorkFileName = PathOf("a.tmp");
@@ -104,6 +169,15 @@ TEST_F(Lifecycle, ANameAlreadyOnTheRecentListStaysInItsPlace) {
     EXPECT_EQ(names[0], "/b.tdw");
     EXPECT_EQ(names[1], "/a.tdw");
     EXPECT_EQ(names[2], "");
+}
+
+TEST_F(Lifecycle, APathOfMoreThan255CharactersIsKeptWhole) {
+    const std::string path =
+        "/jobs/" + std::string(200, 'a') + "/" + std::string(200, 'b') + ".tdw";
+    AddToRecentFiles(path);
+    AddToRecentFiles(path);
+    EXPECT_EQ(RecentFiles()[0], path);
+    EXPECT_EQ(RecentFiles()[1], "");
 }
 
 TEST_F(Lifecycle, AtMostTwentyRecentProjectsAreKept) {

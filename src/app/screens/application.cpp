@@ -13,6 +13,7 @@
 #include "app/screens/frm_splash.h"
 #include "app/screens/open_command.h"
 #include "app/screens/pointer.h"
+#include "app/screens/screen_table.h"
 #include "app/screens/wiring.h"
 #include "app/startup.h"
 #include "platform/files/paths.h"
@@ -75,11 +76,13 @@ void OpenSampleJob() {
     if (State().ProjectIsOpen) return;
     const std::string job = FindSampleJob(QApplication::applicationFilePath().toStdString());
     if (job.empty()) return;
+    const bool tipShown = Form::Find("frmTip");
     State().OpenNamedFile = LeftUnsavedWork(job);
     State().FileToOpen = job;
     mnuFileOpen_Click();
     State().OpenNamedFile = false;
     State().FileToOpen.clear();
+    if (tipShown) ShowScreen("frmTip");  // opening closed it with the other screens
 }
 
 void ShowMainWindow(const StartOptions& options) {

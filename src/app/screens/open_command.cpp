@@ -8,6 +8,7 @@
 #include "app/screens/project_commands.h"
 #include "app/screens/screen_table.h"
 #include "app/startup.h"
+#include "platform/files/leftovers.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
 #include "platform/qt/dialogs.h"
@@ -24,8 +25,20 @@ constexpr const char* openErrorTitle = "Project File Open Error";
 
 /// The work file's name of the project that is to be opened.
 std::string TempFileBeside() {
-    const std::string& name = State().ProjectFileName;
-    return std::string(FirstCharacters(name, CharacterCount(name) - 4)) + ".tmp";
+    return WorkFileOf(State().ProjectFileName);
+}
+
+/// The file is its own work file: one that ends in ".tmp", or a link to such a one. Opened as a
+/// project it would be deleted when the project closes.
+bool IsOwnTempFile() {
+    return FileExists(State().ProjectFileName) &&
+           CanonicalPath(State().ProjectFileName) == CanonicalPath(TempFileBeside());
+}
+
+std::string OwnTempFileText() {
+    return BaseName(State().ProjectFileName) +
+           " is the working copy of a project.  Please open the project itself, or give the copy "
+           "a name that ends in .tdw.";
 }
 
 /// One run of the command. Each step answers whether the command goes on; its number is what a
@@ -151,12 +164,17 @@ OpenCommand::Next OpenCommand::OpenChosenFile() {
         step_ = 8;
         if (IsDosProject()) {
             ShowMessage(
-                "Tendo",
+                "TENDO",
                 "This is a DOS TENDO Project File.  Please select Convert DOS TENDO Project "
                 "Files from the File menu.");
             return StopWithHourglass();
         }
         step_ = 9;
+        if (IsOwnTempFile()) {
+            ShowMessage(openErrorTitle, OwnTempFileText());
+            KeepOldProject();
+            return Next::Stop;
+        }
         if (FileExists(TempFileBeside())) return OpenBesideTempFile();
         step_ = 11;
         OpenFromProjectFile();
@@ -234,15 +252,20 @@ OpenCommand::Next OpenCommand::OpenBesideTempFile() {
 }
 
 void OpenCommand::OpenFromProjectFile() {
+    if (IsOwnTempFile()) throw RuntimeError(error_number::PathFileAccess, OwnTempFileText());
     ResetProjectData();
     MakeFileExtensions();
+    RemoveLeftovers(DirectoryOf(State().ProjectFileName));
     RememberProjectFile();  // before it is read: a change in between must be noticed
+    std::optional<std::string> leftOver;
+    if (FileExists(State().WorkFileName)) leftOver = ReadWholeFile(State().WorkFileName);
     CopyFileOver(State().ProjectFileName, State().WorkFileName);
     try {
         LoadWorkFile();
     } catch (const RuntimeError&) {
-        DeleteWorkFile();  // a copy of what can't be read; left there it would pass for unsaved
-                           // work
+        // A copy of what can't be read would pass for unsaved work; what was there may be all that
+        // is left of the project.
+        leftOver ? ReplaceFile(State().WorkFileName, *leftOver) : DeleteWorkFile();
         throw;
     }
     State().ProjectIsOpen = true;
@@ -251,6 +274,7 @@ void OpenCommand::OpenFromProjectFile() {
 void OpenCommand::OpenFromWorkFile() {
     ResetProjectData();
     MakeFileExtensions();
+    RemoveLeftovers(DirectoryOf(State().ProjectFileName));
     // Read first: a work file that can't be read must not take the place of the user's file.
     LoadWorkFile();
     CopyFileOver(State().WorkFileName, State().ProjectFileName);

@@ -16,6 +16,7 @@ constexpr const char* site = "https://www.velmo.example/";
 
 /// A program of the same maker.
 struct Sibling {
+    const char* windowTitle;         // of a running copy
     const char* key;                 // in section "Velmo Software"
     std::vector<const char*> files;  // the first one found is started
     const char* boxTitle;
@@ -23,12 +24,19 @@ struct Sibling {
     const char* loadMessage;
 };
 
-void StartSibling(const Sibling& sibling) {
+/// The first of the sibling's files that is in its directory; empty when it isn't installed.
+std::string ProgramOf(const Sibling& sibling) {
     const std::string directory = WithSeparator(VelmoProfileString(sibling.key));
-    std::string program;
-    if (directory != std::string(1, PathSeparator))
-        for (const char* file : sibling.files)
-            if (program.empty() && FileExists(directory + file)) program = directory + file;
+    if (directory == std::string(1, PathSeparator)) return {};
+    for (const char* file : sibling.files)
+        if (const std::string program = FileInAnyCase(directory, file); FileExists(program))
+            return program;
+    return {};
+}
+
+void StartSibling(const Sibling& sibling) {
+    if (Shell().Activate(sibling.windowTitle)) return;
+    const std::string program = ProgramOf(sibling);
     if (program.empty()) {
         ShowMessage(sibling.boxTitle,
                     std::string(sibling.about) +
@@ -40,7 +48,7 @@ void StartSibling(const Sibling& sibling) {
 }
 
 void StartCommonProgram(const char* file, const char* procedure) {
-    if (!Shell().Start(State().CommonDirectory + file))
+    if (!Shell().Start(FileInAnyCase(State().CommonDirectory, file)))
         ShowMessage("TENDO", std::string("TENDO encountered an error while in Sub ") + procedure);
 }
 
@@ -51,7 +59,8 @@ void OpenPage(const char* page) {
 }  // namespace
 
 void mnuToolsKORVA_Click() {
-    StartSibling({"KORVADirectory",
+    StartSibling({"Korva",
+                  "KORVADirectory",
                   {"Korva8.exe", "Korvaw.exe", "Korva.exe"},
                   "About Korva",
                   "KORVA calculates the heating and cooling loads of houses and small commercial "
@@ -60,7 +69,8 @@ void mnuToolsKORVA_Click() {
 }
 
 void mnuToolsPYROS_Click() {
-    StartSibling({"PYROSDirectory",
+    StartSibling({"PYROS",
+                  "PYROSDirectory",
                   {"PYROS.EXE"},
                   "About PYROS for Windows",
                   "PYROS compares the yearly energy costs of heating and cooling systems.  It "
@@ -69,7 +79,8 @@ void mnuToolsPYROS_Click() {
 }
 
 void mnuToolsMELDA_Click() {
-    StartSibling({"MELDADirectory",
+    StartSibling({"MELDA",
+                  "MELDADirectory",
                   {"MELDAW32.EXE"},
                   "About MELDA for Windows",
                   "MELDA sizes duct systems and prints their layout.  It handles both round and "
@@ -78,7 +89,8 @@ void mnuToolsMELDA_Click() {
 }
 
 void mnuToolsVelmoToolbar_Click() {
-    StartSibling({"ToolbarDirectory",
+    StartSibling({"Toolbar",
+                  "ToolbarDirectory",
                   {"Toolbar.EXE"},
                   "About Toolbar for Windows",
                   "The Velmo Toolbar starts all of Velmo Software's programs from one place on the "
@@ -102,7 +114,7 @@ void mnuToolsCalculator_Click() {
 }
 
 void mnuHelpReadme_Click() {
-    OpenAssociatedProgram(State().ProgramDirectory + "README.DOC");
+    OpenAssociatedProgram(FileInAnyCase(State().ProgramDirectory, "README.DOC"));
 }
 
 void mnuHelpSendMailToTechSupport_Click() {
@@ -110,7 +122,7 @@ void mnuHelpSendMailToTechSupport_Click() {
 }
 
 void mnuHelpAboutVelmoSoftware_Click() {
-    OpenAssociatedProgram(State().CommonDirectory + "Velmo.hlp");
+    OpenAssociatedProgram(FileInAnyCase(State().CommonDirectory, "Velmo.hlp"));
 }
 
 void mnuVelmoFreeSoftwareDemos_Click() {

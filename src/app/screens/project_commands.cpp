@@ -8,6 +8,7 @@
 #include "app/screens/pointer.h"
 #include "app/screens/screen_table.h"
 #include "platform/files/ini_file_handler.h"
+#include "platform/files/leftovers.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
 #include "platform/qt/dialogs.h"
@@ -19,6 +20,7 @@
 #include "project/program_state.h"
 #include "project/project_lifecycle.h"
 #include "project/project_records.h"
+#include "project/screens/frm_gpd.h"
 
 namespace tendo {
 namespace {
@@ -79,12 +81,8 @@ std::string AskProjectName() {
 }
 
 void SaveUnderName(const std::string& fileName) {
-    CopyFileOver(State().WorkFileName, fileName);
-    DeleteWorkFile();
-    State().ProjectFileName = fileName;
-    MakeFileExtensions();
-    CopyFileOver(State().ProjectFileName, State().WorkFileName);
-    RememberProjectFile();
+    RemoveLeftovers(DirectoryOf(fileName));
+    SaveProjectAs(fileName);
     ShowProjectCaption();
     State().ProjectChanged = false;
 }
@@ -174,6 +172,7 @@ void mnuFileNew_Click() {
     HourglassPointer();
     CloseProjectWindows();
     if (!LeaveOpenProject()) return NormalPointer();
+    ImportFileName().clear();
     State().ProjectFileName = State().ProjectsDirectory + "Untitled.hid";
     MakeFileExtensions();
     CopyAutoloadProject();
@@ -203,6 +202,8 @@ void mnuFileSave_Click() {
     if (IsUntitled()) {
         mnuFileSaveAs_Click();
     } else {
+        RemoveLeftovers(DirectoryOf(State().ProjectFileName));
+        RestoreWorkFile();
         SaveWorkFile();
         if (!MayReplaceProjectFile()) return NormalPointer();
         CopyFileOver(State().WorkFileName, State().ProjectFileName);
@@ -216,7 +217,6 @@ void mnuFileSave_Click() {
 void mnuFileSaveAs_Click() {
     HourglassPointer();
     Form::StoreAllFields();
-    const std::string oldName = State().ProjectFileName;
     try {
         SaveWorkFile();
         const std::string name = AskProjectName();
@@ -225,7 +225,7 @@ void mnuFileSaveAs_Click() {
         else if (State().ClosingDown)
             State().SaveCancelled = true;
     } catch (const RuntimeError&) {
-        State().ProjectFileName = oldName;
+        State().SaveCancelled = true;  // what was to be closed after it stays
         ShowMessage("Save Project File Error",
                     "An error occured while trying to save your project.  No file was saved.");
     }
@@ -234,9 +234,9 @@ void mnuFileSaveAs_Click() {
 
 void tmrAutoSave_Timer() {
     if (Ini().MyGetAppProfileInteger("Options", "AutoSave", -1) != 1) return;
-    const auto interval = static_cast<std::int32_t>(
-        ValueOfText(Ini().MyGetAppProfileString("Options", "AutoSaveInterval", "5")));
-    if (State().AutosaveCounter < interval - 1) {
+    const float ticks =
+        ValueOfText(Ini().MyGetAppProfileString("Options", "AutoSaveInterval", "5"));
+    if (static_cast<float>(State().AutosaveCounter) < ticks - 1) {
         ++State().AutosaveCounter;
         return;
     }

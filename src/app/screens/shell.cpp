@@ -14,6 +14,7 @@ namespace {
 constexpr int lastErrorNumber = 32;
 constexpr int fileNotFound = 2;
 constexpr int noAssociation = 31;
+constexpr int toolLimit = 500;  // milliseconds
 
 int OpenOnDesktop(const std::string& target) {
     const QString text = QString::fromStdString(target);
@@ -29,11 +30,43 @@ bool StartDetached(const std::string& program) {
     return QProcess::startDetached(QString::fromStdString(program), {});
 }
 
+/// What the desktop's window tool answers; empty when there is no such tool.
+std::string WindowTool(const QStringList& arguments) {
+    QProcess tool;
+    tool.start("wmctrl", arguments);
+    if (!tool.waitForFinished(toolLimit)) {
+        tool.kill();
+        tool.waitForFinished(toolLimit);
+        return {};
+    }
+    return tool.readAllStandardOutput().toStdString();
+}
+
+bool ActivateWindow(const std::string& title) {
+    const std::string window = WindowOfTitle(WindowTool({"-l"}), title);
+    if (!window.empty()) WindowTool({"-i", "-a", QString::fromStdString(window)});
+    return !window.empty();
+}
+
 }  // namespace
 
 ShellService& Shell() {
-    static ShellService shell{OpenOnDesktop, StartDetached};
+    static ShellService shell{OpenOnDesktop, ActivateWindow, StartDetached};
     return shell;
+}
+
+std::string WindowOfTitle(const std::string& list, const std::string& title) {
+    constexpr int columnsBeforeTitle = 3;
+    std::string beginsSo;
+    for (const QString& line : QString::fromStdString(list).split('\n')) {
+        const QString wholeTitle =
+            line.section(' ', columnsBeforeTitle, -1, QString::SectionSkipEmpty);
+        const std::string window = line.section(' ', 0, 0).toStdString();
+        if (wholeTitle == QString::fromStdString(title)) return window;
+        if (beginsSo.empty() && wholeTitle.startsWith(QString::fromStdString(title)))
+            beginsSo = window;
+    }
+    return beginsSo;
 }
 
 void OpenAssociatedProgram(const std::string& target) {

@@ -92,8 +92,7 @@ void mnuWindowArrange_Click() {
 
 void mnuWindowResetToFullSize_Click() {
     Form* active = Form::Active();
-    if (active && active->SubWindow() && !KeepsItsSize(active->Name()))
-        FillWorkspace(active->SubWindow());
+    if (active && active->SubWindow()) FillWorkspace(active->SubWindow());
 }
 
 void mnuWindowResetAllToFullSize_Click() {

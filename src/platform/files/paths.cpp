@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "platform/files/file_error.h"
+#include "platform/text/text.h"
 
 namespace tendo {
 
@@ -83,6 +84,15 @@ std::vector<std::string> FilesIn(std::string_view directory) {
     }
     std::sort(names.begin(), names.end());
     return names;
+}
+
+std::string FileInAnyCase(std::string_view directory, std::string_view name) {
+    std::string path(directory);
+    path += name;
+    if (FileExists(path)) return path;
+    for (const std::string& file : FilesIn(directory))
+        if (EqualsNoCase(file, name)) return std::string(directory) + file;
+    return path;
 }
 
 std::uint64_t FileLength(std::string_view path) {

@@ -30,6 +30,10 @@ void MakeDirectory(std::string_view directory);
 /// Names (not paths) of the files in a folder, sorted, without folders; empty when it can't be
 /// read.
 std::vector<std::string> FilesIn(std::string_view directory);
+
+/// The full name of a file of a folder (that ends in the separator), however its letters are
+/// written on the disk; as it is given when there is none.
+std::string FileInAnyCase(std::string_view directory, std::string_view name);
 /// The length in bytes; throws RuntimeError 53.
 std::uint64_t FileLength(std::string_view path);
 /// Seconds since 1970 of the last change; nothing when there is no such file.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QInputDialog>
@@ -117,14 +118,18 @@ class QtDialogs : public DialogService {
 
     std::optional<std::string> File(const FileDialog& dialog) override {
         const PlainPointer pointer;
-        QFileDialog box(QApplication::activeWindow(), Q(dialog.title), Q(dialog.folder),
-                        QtFilter(dialog.filter));
+        // A drive that this system doesn't know ("a:\\") leaves the choice of the folder to the
+        // user.
+        const bool known = dialog.folder.empty() || QDir(Q(dialog.folder)).exists();
+        QFileDialog box(QApplication::activeWindow(), Q(dialog.title),
+                        known ? Q(dialog.folder) : QDir::homePath(), QtFilter(dialog.filter));
         const bool save = dialog.kind == FileDialog::Kind::Save;
         box.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
         box.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
         box.setOption(QFileDialog::DontConfirmOverwrite, !dialog.promptOnOverwrite);
         if (!dialog.defaultExtension.empty()) box.setDefaultSuffix(Q(dialog.defaultExtension));
-        if (!Q(dialog.fileName).contains('*')) box.selectFile(Q(dialog.fileName));
+        const QString name = known ? Q(dialog.fileName) : Q(dialog.fileName).section('\\', -1);
+        if (!name.contains('*')) box.selectFile(name);
         if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return std::nullopt;
         return box.selectedFiles().constFirst().toStdString();
     }
@@ -160,11 +165,15 @@ class QtDialogs : public DialogService {
 };
 
 std::unique_ptr<DialogService>& Service() {
-    static std::unique_ptr<DialogService> service = std::make_unique<QtDialogs>();
+    static std::unique_ptr<DialogService> service = MakeScreenDialogs();
     return service;
 }
 
 }  // namespace
+
+std::unique_ptr<DialogService> MakeScreenDialogs() {
+    return std::make_unique<QtDialogs>();
+}
 
 DialogService& Dialogs() {
     return *Service();

@@ -67,6 +67,9 @@ class DialogService {
     virtual bool Print(const std::string& title) = 0;
 };
 
+/// The service that shows real dialogs.
+std::unique_ptr<DialogService> MakeScreenDialogs();
+
 /// The service in use; without another one, the one that shows real dialogs.
 DialogService& Dialogs();
 void SetDialogs(std::unique_ptr<DialogService> service);

@@ -13,8 +13,12 @@
 #include "platform/files/ini_file_handler.h"
 #include "platform/files/profile.h"
 #include "platform/qt/fields.h"
+<<<<<<< Updated upstream
 #include "platform/qt/mnemonics.h"
 #include "platform/qt/spoken_names.h"
+=======
+#include "platform/qt/view_port.h"
+>>>>>>> Stashed changes
 #include "platform/text/runtime_error.h"
 
 namespace tendo {
@@ -61,7 +65,7 @@ Form::~Form() {
 void Form::MakeSubWindow() {
     auto* window = new QMdiSubWindow;
     window->setAttribute(Qt::WA_DeleteOnClose);
-    window->setWidget(this);
+    window->setWidget(new ViewPort(this));
     workspace->addSubWindow(window);
     window->setWindowIcon(QIcon());
     const QSize frame(8, style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
@@ -161,8 +165,10 @@ Form* Form::TopModal() {
 
 Form* Form::Active() {
     if (Form* modal = TopModal()) return modal;
-    if (!workspace || !workspace->activeSubWindow()) return nullptr;
-    return qobject_cast<Form*>(workspace->activeSubWindow()->widget());
+    const QMdiSubWindow* front = workspace ? workspace->activeSubWindow() : nullptr;
+    for (Form* form : loadedForms)
+        if (front && form->subWindow_ == front) return form;
+    return nullptr;
 }
 
 void Form::SetWorkspace(QMdiArea* area) {

@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTabBar>
 #include <QTabWidget>
@@ -108,6 +109,7 @@ std::string TextOfControl(QWidget* control) {
     if (auto* tabs = qobject_cast<QTabWidget*>(control))
         return S(tabs->tabText(tabs->currentIndex()));
     if (auto* bar = qobject_cast<QTabBar*>(control)) return S(bar->tabText(bar->currentIndex()));
+    if (auto* bar = qobject_cast<QScrollBar*>(control)) return std::to_string(bar->value());
     if (auto* progress = qobject_cast<QProgressBar*>(control)) return S(progress->text());
     if (auto* view = qobject_cast<QAbstractItemView*>(control))
         return S(view->currentIndex().data().toString());
@@ -156,8 +158,11 @@ QWidget* ControlOf(const ControlPath& path) {
     QWidget* form = ScreenOf(path.form);
     if (path.control.empty()) throw std::runtime_error("a control is to be named as FORM.CONTROL");
     const QString name = QString::fromStdString(path.control);
-    for (QWidget* widget : form->findChildren<QWidget*>())
-        if (widget->objectName().compare(name, Qt::CaseInsensitive) == 0) return widget;
+    const auto* screen = qobject_cast<Form*>(form);
+    // The window around a screen holds its scroll bars.
+    for (QWidget* place : {form, screen ? static_cast<QWidget*>(screen->SubWindow()) : nullptr})
+        for (QWidget* widget : place ? place->findChildren<QWidget*>() : QList<QWidget*>())
+            if (widget->objectName().compare(name, Qt::CaseInsensitive) == 0) return widget;
     throw std::runtime_error(path.form + " has no control " + path.control);
 }
 

@@ -36,6 +36,10 @@ void Session::RecordShellCalls() {
         const bool address = QUrl(QString::fromStdString(target)).scheme().size() > 1;
         return address || FileExists(target) ? done : fileNotFound;
     };
+    Shell().Activate = [this](const std::string& title) {
+        shellCalls.push_back("activate " + title);
+        return false;
+    };
     Shell().Start = [this](const std::string& program) {
         shellCalls.push_back("start " + program);
         return !QStandardPaths::findExecutable(QString::fromStdString(program)).isEmpty();

@@ -80,8 +80,8 @@ class Session {
 
     ScriptedDialogs& Dialogs_() { return *dialogs_; }
     std::vector<FormAnswer>& FormAnswers() { return formAnswers_; }
-    /// What the program asked of the desktop, in order: "open TARGET", "start PROGRAM". Nothing of
-    /// it is done.
+    /// What the program asked of the desktop, in order: "open TARGET", "activate TITLE", "start
+    /// PROGRAM". Nothing of it is done.
     std::vector<std::string> shellCalls;
     std::size_t shellCallsLooked = 0;  // calls before this one were looked at by `expect shell`
     /// The document and call log searches of `expect surface`.

@@ -1,8 +1,14 @@
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QAbstractButton>
+#include <QRadioButton>
 #include <cerrno>
 #include <fstream>
 
 #include "platform/files/safe_file.h"
 #include "platform/files/system_calls.h"
+#include "project/project_lifecycle.h"
 #include "project/project_records.h"
 #include "running_program.h"
 
@@ -122,10 +128,23 @@ TEST_F(Failures, AFolderThatVanishedIsToldAndSaveAsSavesElsewhere) {
     ActiveBarClick("ToolSave");
     ExpectOneBox("Run-time error");
     EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "On the way");
-    fs::rename(home / "Elsewhere", home / "Away");
     dialogs->messages.clear();
-    ActiveBarClick("ToolSave");
+    dialogs->files = {Place("Rescued.tdw")};
+    ActiveBarClick("ToolSaveAs");
     EXPECT_TRUE(dialogs->messages.empty());
+    EXPECT_TRUE(ReadWholeFile(Place("Rescued.tdw")) == ReadWholeFile(Place("Rescued.tmp")));
+    Project() = ProjectRecords();
+    LoadWorkFile();
+    EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "On the way");
+}
+
+TEST_F(Failures, AFolderThatComesBackIsSavedToAgain) {
+    fs::rename(home / "Projects", home / "Elsewhere");
+    ActiveBarClick("ToolSave");
+    ExpectOneBox("there is no such folder");
+    fs::rename(home / "Elsewhere", home / "Projects");
+    fs::remove(Place("Job.tmp"));
+    ExpectTheNextSaveToWork();
 }
 
 TEST_F(Failures, AnExitWhoseSaveFailsKeepsTheProgram) {
@@ -139,6 +158,116 @@ TEST_F(Failures, AnExitWhoseSaveFailsKeepsTheProgram) {
     EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "Changed since");
     ExpectUserFileAsItWas();
     ExpectTheNextSaveToWork();
+}
+
+TEST_F(Failures, AnExitWhoseSaveAsFailsKeepsTheProgram) {
+    dialogs->answers = {Answer::No};
+    ActiveBarClick("ToolNew");
+    ActiveBarClick("ToolCloseAllProjectWindows");
+    Change("Never saved");
+    dialogs->messages.clear();
+    dialogs->answers = {Answer::Yes};
+    dialogs->files = {directory + "no/such/folder/Job.tdw"};
+    EXPECT_FALSE(QuitTendo());
+    EXPECT_TRUE(Saw("No file was saved."));
+    EXPECT_TRUE(Exists("Projects/Untitled.tmp"));
+    EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "Never saved");
+    EXPECT_EQ(State().ProjectFileName, Place("Untitled.hid"));
+}
+
+TEST_F(Failures, ANewWhoseSaveAsFailsKeepsTheOldProject) {
+    dialogs->answers = {Answer::No};
+    ActiveBarClick("ToolNew");
+    ActiveBarClick("ToolCloseAllProjectWindows");
+    Change("Never saved");
+    dialogs->answers = {Answer::Yes};
+    dialogs->files = {directory + "no/such/folder/Job.tdw"};
+    ActiveBarClick("ToolNew");
+    EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "Never saved");
+    EXPECT_TRUE(Exists("Projects/Untitled.tmp"));
+}
+
+TEST_F(Failures, AfterACloseThatSavedTheExitsQuestionCanBeAnsweredWithYesToo) {
+    dialogs->answers = {Answer::Yes};
+    ActiveBarClick("ToolClose");
+    EXPECT_FALSE(Exists("Projects/Job.tmp"));
+    const std::string closed = ReadWholeFile(Place("Job.tdw"));
+    EXPECT_FALSE(closed == saved);
+    dialogs->messages.clear();
+    dialogs->answers = {Answer::Yes};
+    EXPECT_TRUE(QuitTendo());
+    EXPECT_EQ(dialogs->messages.size(), 1U);  // the question alone
+    EXPECT_FALSE(Exists("Projects/Job.tmp"));
+    EXPECT_TRUE(StartProgram());
+    dialogs->files = {Place("Job.tdw")};
+    ActiveBarClick("ToolOpen");
+    EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "Changed since");
+}
+
+TEST_F(Failures, AFileThatCannotBeReadLeavesTheWorkFileThatLayBesideIt) {
+    dialogs->answers = {Answer::No};
+    Restart();
+    Write("Projects/Job.tdw", "no database");
+    Write("Projects/Job.tmp", saved);
+    Form::SetModalObserver([](Form& form) {
+        form.findChild<QRadioButton*>("optOption2")->setChecked(true);
+        form.findChild<QAbstractButton*>("btnOK")->click();
+    });
+    dialogs->files = {Place("Job.tdw")};
+    dialogs->messages.clear();
+    ActiveBarClick("ToolOpen");
+    ExpectOneBox("The file must not be usable.");
+    EXPECT_EQ(Read("Projects/Job.tdw"), "no database");
+    EXPECT_TRUE(ReadWholeFile(Place("Job.tmp")) == saved);
+}
+
+TEST_F(Failures, AWorkingCopyThatIsOpenedItselfIsRefusedAndStays) {
+    dialogs->answers = {Answer::No};
+    ActiveBarClick("ToolClose");
+    Write("Projects/Copy.tmp", saved);
+    fs::create_symlink(Place("Copy.tmp"), Place("Copy.tdw"));
+    for (const char* name : {"Copy.tmp", "Copy.tdw"}) {
+        SCOPED_TRACE(name);
+        dialogs->messages.clear();
+        dialogs->files = {Place(name)};
+        ActiveBarClick("ToolOpen");
+        ExpectOneBox(std::string(name) + " is the working copy of a project.");
+        EXPECT_FALSE(State().ProjectIsOpen);
+    }
+    dialogs->messages.clear();
+    DropFiles({Place("Copy.tdw")});
+    EXPECT_TRUE(Saw("Copy.tdw is the working copy of a project."));
+    EXPECT_TRUE(QuitTendo());
+    EXPECT_TRUE(ReadWholeFile(Place("Copy.tmp")) == saved);
+}
+
+TEST_F(Failures, WhatAKilledSaveLeftIsRemovedByTheNextStartOpenAndSave) {
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(0);
+    ::waitpid(child, nullptr, 0);
+    const std::string leftover = ".tendo-" + std::to_string(child) + "-7.new";
+    fs::create_directories(home / "Away");
+    const auto leave = [&] {
+        for (const char* folder : {"", "Projects/", "Away/"})
+            Write(folder + leftover, "half");
+    };
+    leave();
+    ActiveBarClick("ToolSave");
+    EXPECT_FALSE(Exists("Projects/" + leftover));
+    dialogs->files = {directory + "Away/Trip.tdw"};
+    ActiveBarClick("ToolSaveAs");
+    EXPECT_FALSE(Exists("Away/" + leftover));
+    leave();
+    dialogs->answers = {Answer::No, Answer::No};
+    dialogs->files = {directory + "Away/Trip.tdw"};
+    ActiveBarClick("ToolOpen");
+    EXPECT_FALSE(Exists("Away/" + leftover));
+    EXPECT_TRUE(Exists(leftover));
+    QuitTendo();
+    leave();
+    StartProgram();
+    EXPECT_FALSE(Exists(leftover));
+    EXPECT_FALSE(Exists("Projects/" + leftover));
 }
 
 TEST_F(Failures, AFileThatAnotherProgramChangedIsOnlyReplacedWhenItsUserAgrees) {

@@ -4,6 +4,7 @@
 
 #include "platform/qt/fields.h"
 #include "project/project_records.h"
+#include "project/screens/frm_gpd.h"
 #include "running_program.h"
 
 namespace tendo {
@@ -143,6 +144,27 @@ TEST_F(GeneralProjectData, BrowsingTakesTheChosenDatabase) {
     const std::string shown = Text("txtDefDB");
     Find<QAbstractButton>("btnBrowse")->click();  // a cancel changes nothing
     EXPECT_EQ(Text("txtDefDB"), shown);
+}
+
+TEST_F(GeneralProjectData, TheImportFileIsKeptUntilACancelOrTheNextNewProject) {
+    dialogs->fileDialogs.clear();
+    dialogs->files = {Place("Other.tdw")};
+    Find<QAbstractButton>("btnImportFile")->click();
+    ASSERT_EQ(dialogs->fileDialogs.size(), 1U);
+    EXPECT_EQ(dialogs->fileDialogs[0].filter, "TENDO Project File (*.TDW*)|*.TDW|");
+    EXPECT_EQ(dialogs->fileDialogs[0].fileName, "*.TDW");
+    EXPECT_EQ(dialogs->fileDialogs[0].folder, State().ProjectsDirectory);
+    EXPECT_EQ(ImportFileName(), Place("Other.tdw"));
+    ActiveBarClick("ToolNew");
+    EXPECT_EQ(ImportFileName(), "");
+    dialogs->files = {Place("Other.tdw"), "*.TDW"};
+    Find<QAbstractButton>("btnImportFile")->click();
+    Find<QAbstractButton>("btnImportFile")->click();  // the pattern is no choice
+    EXPECT_EQ(ImportFileName(), "");
+    dialogs->files = {Place("Other.tdw")};
+    Find<QAbstractButton>("btnImportFile")->click();
+    Find<QAbstractButton>("btnImportFile")->click();  // cancelled
+    EXPECT_EQ(ImportFileName(), "");
 }
 
 }  // namespace

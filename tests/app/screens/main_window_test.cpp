@@ -5,8 +5,13 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QToolBar>
 
+#include "app/screens/bar.h"
+#include "app/screens/command_dispatch.h"
+#include "app/screens/screen_table.h"
 #include "app/screens/shell.h"
 #include "platform/files/ini_file_handler.h"
 #include "running_program.h"
@@ -23,6 +28,10 @@ class MainWindow : public RunningProgram {
             opened.push_back(target);
             return openResult;
         };
+        Shell().Activate = [this](const std::string& title) {
+            activated.push_back(title);
+            return activateResult;
+        };
         Shell().Start = [this](const std::string& program) {
             started.push_back(program);
             return startResult;
@@ -35,15 +44,47 @@ class MainWindow : public RunningProgram {
     }
 
     ShellService saved;
-    std::vector<std::string> opened, started;
+    std::vector<std::string> opened, started, activated;
+    bool activateResult = false;
     int openResult = 33;
     bool startResult = true;
 };
 
-TEST_F(MainWindow, CommandsOfScreensToComeAreDisabled) {
-    EXPECT_FALSE(FindTool("ToolOptions")->enabled);
-    EXPECT_FALSE(ActiveBarClick("ToolOptions"));
+TEST_F(MainWindow, ACommandThatIsDisabledDoesNothingAndSaysNothing) {
+    for (const ToolState& tool : Tools()) {
+        if (tool.enabled && tool.visible) continue;
+        EXPECT_FALSE(ActiveBarClick(tool.name)) << tool.name;
+    }
     EXPECT_FALSE(ActiveBarClick("NoSuchTool"));
+    EXPECT_TRUE(dialogs->messages.empty());
+    EXPECT_TRUE(dialogs->fileDialogs.empty());
+}
+
+TEST_F(MainWindow, TheMaterialDatabaseIsOpenedByOneScreenAtATime) {
+    const auto plain = [](const char* name) {
+        return [name] { return new Form(name, "Plain", Form::Place::Child); };
+    };
+    RegisterScreen("frmEditMaterials", plain("frmEditMaterials"));
+    RegisterScreen("frmMatCosts", plain("frmMatCosts"));
+    RefreshAvailableTools();
+    MainBar().SetEnabled("ToolMaterialDB", true);
+    ActiveBarClick("ToolNew");
+    ActiveBarClick("ToolMaterialDB");
+    EXPECT_NE(Form::Find("frmEditMaterials"), nullptr);
+    State().MaterialDatabaseHeld = true;
+    ActiveBarClick("ToolMaterialDB");  // the screen that holds it comes forward
+    EXPECT_TRUE(dialogs->messages.empty());
+    ActiveBarClick("ToolMaterialCosts");
+    EXPECT_EQ(Form::Find("frmMatCosts"), nullptr);
+    ASSERT_EQ(dialogs->messages.size(), 1U);
+    EXPECT_EQ(dialogs->messages[0].title, "Database already open elsewhere");
+    EXPECT_EQ(dialogs->messages[0].text,
+              "You will not be able to open the Materials database, as it is already open in "
+              "another screen.  You can only open the database to edit or open the database to "
+              "select from, but not both at the same time.");
+    State().MaterialDatabaseHeld = false;
+    ActiveBarClick("ToolMaterialCosts");
+    EXPECT_NE(Form::Find("frmMatCosts"), nullptr);
 }
 
 TEST_F(MainWindow, BravolinHasNoAction) {
@@ -71,6 +112,77 @@ TEST_F(MainWindow, OfSeveralSiblingFilesTheFirstFoundIsStarted) {
     startResult = false;
     ActiveBarClick("ToolKORVA");
     EXPECT_TRUE(Saw("TENDO cannot load the KORVA for Windows program."));
+}
+
+TEST_F(MainWindow, ASiblingThatRunsComesForwardAndNothingElseHappens) {
+    activateResult = true;
+    for (const char* tool : {"ToolKORVA", "ToolPYROS", "ToolMELDA", "ToolVelmoToolbar"})
+        ActiveBarClick(tool);
+    EXPECT_EQ(activated, (std::vector<std::string>{"Korva", "PYROS", "MELDA", "Toolbar"}));
+    EXPECT_TRUE(started.empty());
+    EXPECT_TRUE(dialogs->messages.empty());
+}
+
+TEST_F(MainWindow, EachSiblingIsStartedFromItsDirectoryAndAFailureTold) {
+    struct Sibling {
+        const char* tool;
+        const char* key;
+        const char* file;
+        const char* message;
+    };
+    const Sibling siblings[] = {
+        {"ToolKORVA", "KORVADirectory", "Korva.exe",
+         "TENDO cannot load the KORVA for Windows program."},
+        {"ToolPYROS", "PYROSDirectory", "PYROS.EXE",
+         "TENDO cannot load the PYROS for Windows program."},
+        {"ToolMELDA", "MELDADirectory", "MELDAW32.EXE",
+         "TENDO cannot load the MELDA for Windows program."},
+        {"ToolVelmoToolbar", "ToolbarDirectory", "Toolbar.EXE",
+         "TENDO cannot load the Toolbar for Windows program."},
+    };
+    for (const Sibling& sibling : siblings) {
+        SCOPED_TRACE(sibling.tool);
+        const std::string folder = std::string("at ") + sibling.key;
+        Write(folder + "/" + sibling.file, "x");
+        WriteWinIni(sibling.key, directory + folder);
+        startResult = true;
+        ActiveBarClick(sibling.tool);
+        EXPECT_TRUE(dialogs->messages.empty());
+        EXPECT_EQ(started.back(), directory + folder + "/" + sibling.file);
+        startResult = false;
+        ActiveBarClick(sibling.tool);
+        ASSERT_EQ(dialogs->messages.size(), 1U);
+        EXPECT_EQ(dialogs->messages[0].text, sibling.message);
+        dialogs->messages.clear();
+    }
+}
+
+TEST_F(MainWindow, AProgramsFileIsFoundHoweverItsLettersAreWritten) {
+    Write("pyros/pyros.exe", "x");
+    WriteWinIni("PYROSDirectory", directory + "pyros");
+    ActiveBarClick("ToolPYROS");
+    EXPECT_EQ(started, std::vector<std::string>{directory + "pyros/pyros.exe"});
+    ActiveBarClick("ToolAboutVelmoSoftware");
+    EXPECT_EQ(opened, std::vector<std::string>{State().CommonDirectory + "VELMO.HLP"});
+}
+
+TEST(WindowList, TheWholeTitleCountsBeforeABeginningOfIt) {
+    const std::string list =
+        "0x01 0 office KORVA - Oak Lane\n0x02  -1 office  Korva\n0x03 0 office Korva 8\n\n";
+    EXPECT_EQ(WindowOfTitle(list, "Korva"), "0x02");
+    EXPECT_EQ(WindowOfTitle(list, "KORVA"), "0x01");
+    EXPECT_EQ(WindowOfTitle(list, "Korva 8"), "0x03");
+    EXPECT_EQ(WindowOfTitle(list, "office"), "");
+    EXPECT_EQ(WindowOfTitle("", "Korva"), "");
+    EXPECT_EQ(WindowOfTitle("0x04 0 office", "office"), "");
+}
+
+TEST_F(MainWindow, TheCommonProgramsAreStartedFromTheCommonDirectory) {
+    ActiveBarClick("ToolModelDB");
+    ActiveBarClick("ToolConvertARIGAMA");
+    EXPECT_EQ(started, (std::vector<std::string>{State().CommonDirectory + "catview.exe",
+                                                 State().CommonDirectory + "dirconv.exe"}));
+    EXPECT_TRUE(dialogs->messages.empty());
 }
 
 TEST_F(MainWindow, ADocumentThatDoesNotOpenTellsTheNumber) {
@@ -191,6 +303,83 @@ TEST_F(MainWindow, ANewScreenStandsWhollyInsideTheWorkspace) {
         EXPECT_LE(window->geometry().right(), room.right()) << name;
         EXPECT_LE(window->geometry().bottom(), room.bottom()) << name;
     }
+}
+
+TEST_F(MainWindow, TheCommandForOneWindowFillsAnyAndTheOneForAllLeavesSomeAlone) {
+    ActiveBarClick("ToolNew");
+    ShowScreen("frmTip");
+    const QRect room = Form::Workspace()->viewport()->rect();
+    ActiveBarClick("ToolResetAll");
+    EXPECT_EQ(Form::Find("frmGPD")->SubWindow()->geometry(), room);
+    EXPECT_NE(Form::Find("frmTip")->SubWindow()->geometry(), room);
+    ActiveBarClick("ToolResetWindows");
+    EXPECT_EQ(Form::Find("frmTip")->SubWindow()->geometry(), room);
+}
+
+TEST_F(MainWindow, AScreenLargerThanItsWindowGetsBarsThatMoveIt) {
+    ActiveBarClick("ToolNew");
+    Form* form = Form::Find("frmGPD");
+    auto* port = form->SubWindow()->findChild<QScrollArea*>("View_Port");
+    ASSERT_NE(port, nullptr);
+    form->SubWindow()->resize(1000, 900);
+    QApplication::processEvents();
+    EXPECT_FALSE(port->verticalScrollBar()->isVisible());
+    EXPECT_FALSE(port->horizontalScrollBar()->isVisible());
+    form->SubWindow()->resize(300, 240);
+    QApplication::processEvents();
+    EXPECT_EQ(port->verticalScrollBar()->objectName(), "View_Vscr");
+    EXPECT_EQ(port->horizontalScrollBar()->objectName(), "View_Hscr");
+    EXPECT_TRUE(port->verticalScrollBar()->isVisible());
+    EXPECT_TRUE(port->horizontalScrollBar()->isVisible());
+    const QWidget* title = form->Control("txtProjectTitle");
+    const int y = title->mapTo(form->SubWindow(), QPoint()).y();
+    port->verticalScrollBar()->setValue(50);
+    EXPECT_EQ(title->mapTo(form->SubWindow(), QPoint()).y(), y - 50);
+}
+
+TEST_F(MainWindow, AFieldThatTakesTheFocusIsBroughtIntoView) {
+    ActiveBarClick("ToolNew");
+    Form* form = Form::Find("frmGPD");
+    form->SubWindow()->resize(400, 240);
+    QApplication::processEvents();
+    auto* port = form->SubWindow()->findChild<QScrollArea*>("View_Port");
+    QWidget* last = form->Control("txtImportFile");
+    last->setFocus();
+    QApplication::processEvents();
+    EXPECT_TRUE(port->viewport()->rect().contains(
+        QRect(last->mapTo(port->viewport(), QPoint()), QSize(20, last->height()))));
+}
+
+TEST_F(MainWindow, WindowsAreCascadedTiledAndTheirIconsArranged) {
+    ActiveBarClick("ToolNew");
+    ActiveBarClick("ToolSystemTendos");
+    QMdiSubWindow* first = Form::Find("frmGPD")->SubWindow();
+    QMdiSubWindow* second = Form::Find("frmSumModelData")->SubWindow();
+    const QRect room = Form::Workspace()->viewport()->rect();
+    ActiveBarClick("ToolTileHorizontal");
+    EXPECT_EQ(first->geometry(), QRect(0, 0, room.width(), room.height() / 2));
+    EXPECT_EQ(second->y(), first->height());
+    EXPECT_EQ(second->geometry().bottom(), room.bottom());
+    ActiveBarClick("ToolTileVertical");
+    EXPECT_EQ(first->geometry(), QRect(0, 0, room.width() / 2, room.height()));
+    EXPECT_EQ(second->x(), first->width());
+    EXPECT_EQ(second->geometry().right(), room.right());
+    ActiveBarClick("ToolCascade");
+    EXPECT_NE(first->pos(), second->pos());
+    first->showMinimized();
+    second->showMinimized();
+    ActiveBarClick("ToolArrangeIcons");
+    EXPECT_EQ(first->geometry().bottom(), room.bottom());
+    EXPECT_EQ(second->geometry().bottom(), room.bottom());
+    EXPECT_FALSE(first->geometry().intersects(second->geometry()));
+}
+
+TEST_F(MainWindow, TheTitleOfAScreensWindowFollowsTheScreen) {
+    ActiveBarClick("ToolNew");
+    Form* form = Form::Find("frmGPD");
+    EXPECT_EQ(form->SubWindow()->windowTitle(), "General Project Data");
+    form->setWindowTitle("Another");
+    EXPECT_EQ(form->SubWindow()->windowTitle(), "Another");
 }
 
 TEST_F(MainWindow, AMaximizedWindowKeepsTheSizeItHadWhenLastNormal) {

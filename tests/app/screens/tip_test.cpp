@@ -83,5 +83,23 @@ TEST_F(TipOfTheDay, TheBoxIsSavedAtOnce) {
     EXPECT_EQ(Settings().GetSetting("Options", "Show Tips at Startup", "0"), "1");
 }
 
+TEST_F(TipOfTheDay, IsSeenAtTheStartOnTopOfTheSampleJobThatOpenedThere) {
+    QuitTendo();
+    StartTendo({.home = directory,
+                .winIni = "",
+                .today = "1998-05-04",
+                .args = {},
+                .shortLogo = true,
+                .sample = true});
+    if (!State().ProjectIsOpen) GTEST_SKIP() << "the sample data is not built";
+    EXPECT_NE(Form::Find("frmGPD"), nullptr);
+    ASSERT_NE(Form::Find("frmTip"), nullptr);
+    EXPECT_TRUE(Form::Find("frmTip")->IsActiveForm());
+    // Opening a job by hand closes it with the other screens.
+    dialogs->files = {State().ProjectFileName};
+    ActiveBarClick("ToolOpen");
+    EXPECT_EQ(Form::Find("frmTip"), nullptr);
+}
+
 }  // namespace
 }  // namespace tendo
