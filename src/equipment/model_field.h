@@ -19,6 +19,8 @@ struct ModelField {
     int width = 0;          // characters that are kept; 0 for numbers
     const char* unit = "";  // of a number, for the status bar
     std::span<const char* const> choices = {};
+    const char* help = "";  // what the prompt for a price says above its question
+    bool beside = false;    // stands right of the field before it, not below
     std::string (*read)(const ProjectRecords& records, int system) = nullptr;
     void (*write)(ProjectRecords& records, int system, std::string_view text) = nullptr;
 };

@@ -64,6 +64,11 @@ ModelField Figure(const char* name, const char* label, const char* unit) {
     return field;
 }
 
+inline ModelField Beside(ModelField field) {
+    field.beside = true;
+    return field;
+}
+
 template <auto Models, auto Member>
 ModelField Memo(const char* name, const char* label) {
     ModelField field = Bind<Models, Member>(name, label);
@@ -116,9 +121,10 @@ ModelField Quantity(const char* name, const char* label) {
 
 /// A price of the water heater.
 template <auto Member>
-ModelField Price(const char* name, const char* label) {
+ModelField Price(const char* name, const char* label, const char* help) {
     ModelField field = Bind<&ProjectRecords::ModelInfo, Member>(name, label);
     field.kind = ModelFieldKind::Money;
+    field.help = help;
     field.read = [](const ProjectRecords& records, int system) {
         return FormatNumber(records.ModelInfo.at(static_cast<std::size_t>(system)).*Member,
                             MoneyPicture);

@@ -31,29 +31,29 @@ constexpr const char* ExchangerWarranties[] = {"20 Year", "Lifetime"};
 
 std::span<const ModelField> CoolingDetailFields() {
     static const ModelField fields[] = {
-        Number<clg, ModelSide::Cooling>("txtCLGModelNum", "Model"),
-        Quantity<SelectionMode::Cooling>("txtCLGModelQty", "Quantity"),
-        Bind<clg, &CLG::ModelDesc>("txtCLGModelDesc", "Description"),
-        Bind<clg, &CLG::ModelType>("txtCLGModelType", "Type"),
-        Bind<clg, &CLG::AirHandler>("txtAirHandler", "Air handler"),
-        Figure<clg, &CLG::Cap>("txtCLGCap", "Capacity", "MBH"),
-        Figure<clg, &CLG::EFF>("txtCLGEFF", "Efficiency", "SEER"),
-        Figure<clg, &CLG::HeatingCapacity>("txtCLGHeatingCapacity", "Heating capacity", "MBH"),
-        Database<clg>("txtCLGDB", "Database"),
+        Number<clg, ModelSide::Cooling>("txtCLGModelNum", "&Model:"),
+        Quantity<SelectionMode::Cooling>("txtCLGModelQty", "&Quantity:"),
+        Bind<clg, &CLG::ModelDesc>("txtCLGModelDesc", "&Description:"),
+        Bind<clg, &CLG::ModelType>("txtCLGModelType", "&Type:"),
+        Bind<clg, &CLG::AirHandler>("txtAirHandler", "&Air handler:"),
+        Figure<clg, &CLG::Cap>("txtCLGCap", "&Capacity:", "MBH"),
+        Figure<clg, &CLG::EFF>("txtCLGEFF", "&Efficiency:", "SEER"),
+        Figure<clg, &CLG::HeatingCapacity>("txtCLGHeatingCapacity", "&Heating capacity:", "MBH"),
+        Database<clg>("txtCLGDB", "Data&base:"),
     };
     return fields;
 }
 
 std::span<const ModelField> HeatingDetailFields() {
     static const ModelField fields[] = {
-        Number<htg, ModelSide::Heating>("txtHTGModelNum", "Model"),
-        Quantity<SelectionMode::Heating>("txtHTGModelQty", "Quantity"),
-        Bind<htg, &HTG::ModelDesc>("txtHTGModelDesc", "Description"),
-        Bind<htg, &HTG::ModelType>("txtHTGModelType", "Type"),
-        Figure<htg, &HTG::Cap>("txtHTGCap", "Capacity", "MBH"),
-        Figure<htg, &HTG::EFF>("txtHTGEFF", "Efficiency", "HSPF or AFUE"),
+        Number<htg, ModelSide::Heating>("txtHTGModelNum", "M&odel:"),
+        Quantity<SelectionMode::Heating>("txtHTGModelQty", "Q&uantity:"),
+        Bind<htg, &HTG::ModelDesc>("txtHTGModelDesc", "Descri&ption:"),
+        Bind<htg, &HTG::ModelType>("txtHTGModelType", "T&ype:"),
+        Figure<htg, &HTG::Cap>("txtHTGCap", "Capac&ity:", "MBH"),
+        Figure<htg, &HTG::EFF>("txtHTGEFF", "E&fficiency:", "HSPF or AFUE"),
         Figure<htg, &HTG::ElecBackup>("txtElecBackup", "Elec. Backup Capacity (KW):", "kilowatts"),
-        Database<htg>("txtHTGDatabase", "Database"),
+        Database<htg>("txtHTGDatabase", "Databa&se:"),
     };
     return fields;
 }
@@ -73,14 +73,14 @@ std::span<const ModelField> CoolingMiscFields() {
         Figure<clg, &CLG::RefrigTubingMaxLen>("txtCLGRefrigTubingMaxLen",
                                               "Refrig. Tubing Max Len:", "feet"),
         Figure<clg, &CLG::Height>("txtCLGHeight", "Height:", "inches"),
-        Figure<clg, &CLG::Length>("txtCLGLength", "Len:", "inches"),
+        Beside(Figure<clg, &CLG::Length>("txtCLGLength", "Len:", "inches")),
         Figure<clg, &CLG::Width>("txtCLGWidth", "Width:", "inches"),
-        Figure<clg, &CLG::Weight>("txtCLGWeight", "Weight:", "pounds"),
+        Beside(Figure<clg, &CLG::Weight>("txtCLGWeight", "Weight:", "pounds")),
         Bind<clg, &CLG::WarrantyOnMicropoc>("txtCLGWarrantyOnMicropoc", "Warranty on Microproc:"),
         Bind<clg, &CLG::CompressorWarranty>("txtCLGCompressorWarranty", "Comp:", Years),
-        Bind<clg, &CLG::Parts>("txtCLGParts", "Parts:", Years),
+        Beside(Bind<clg, &CLG::Parts>("txtCLGParts", "Parts:", Years)),
         Bind<clg, &CLG::Coil>("txtCLGCoil", "Coil:", Years),
-        Bind<clg, &CLG::Labor>("txtCLGLabor", "Labor:", LaborTimes),
+        Beside(Bind<clg, &CLG::Labor>("txtCLGLabor", "Labor:", LaborTimes)),
         Memo<clg, &CLG::Notes>("txtCLGNotes", "Notes:"),
     };
     return fields;
@@ -99,13 +99,13 @@ std::span<const ModelField> HeatingMiscFields() {
         Bind<htg, &HTG::ExhaustVentType>("txtHTGExhaustVentType", "Exhaust Vent Type:", Vents),
         Figure<htg, &HTG::CFMRate>("txtHTGCFMRate", "CFM Rate:", "cubic feet a minute"),
         Figure<htg, &HTG::Height>("txtHTGHeight", "Height:", "inches"),
-        Figure<htg, &HTG::Length>("txtHTGLength", "Len:", "inches"),
+        Beside(Figure<htg, &HTG::Length>("txtHTGLength", "Len:", "inches")),
         Figure<htg, &HTG::Width>("txtHTGWidth", "Width:", "inches"),
-        Figure<htg, &HTG::Weight>("txtHTGWeight", "Weight:", "pounds"),
+        Beside(Figure<htg, &HTG::Weight>("txtHTGWeight", "Weight:", "pounds")),
         Bind<htg, &HTG::WarrantyOnHeatExchanger>(
             "txtHTGWarrantyOnHeatExchanger", "Warranty on Heat Exchanger:", ExchangerWarranties),
         Bind<htg, &HTG::Parts>("txtHTGParts", "Parts:", Years),
-        Bind<htg, &HTG::Labor>("txtHTGLabor", "Labor:", LaborTimes),
+        Beside(Bind<htg, &HTG::Labor>("txtHTGLabor", "Labor:", LaborTimes)),
         Memo<htg, &HTG::Notes>("txtHTGNotes", "Notes:"),
     };
     return fields;

@@ -53,7 +53,7 @@ void ModelPriceLine::Show(int system) {
     exact_.fill(0);
     ShowPrices();
     // Told from the prices, for the percentages of a file may be stale.
-    const std::array<float, 3> percentages = Percentages();
+    const std::array<float, 3> percentages = ShownPercentages();
     for (std::size_t i = 0; i < std::size(PercentageColumns); ++i)
         Write(PercentageColumns[i], FormatNumber(percentages.at(i), PercentPicture));
 }
@@ -75,6 +75,15 @@ std::array<float, 3> ModelPriceLine::Percentages() {
         records_.ModelInfo.at(static_cast<std::size_t>(system_)).*PricesOf(side_).listPrice;
     return {GrossMarginFromSale(Cost(), sale), MarkupFromSale(Cost(), sale),
             ListDiscountFromSale(list, sale)};
+}
+
+/// The same, all 0 when one lies beyond the range of a float.
+std::array<float, 3> ModelPriceLine::ShownPercentages() {
+    try {
+        return Percentages();
+    } catch (const RuntimeError&) {
+        return {};
+    }
 }
 
 bool ModelPriceLine::Commit(FieldKind column) {

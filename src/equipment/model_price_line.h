@@ -36,6 +36,7 @@ class ModelPriceLine {
     void Calculate(FieldKind column);
     void Follow(FieldKind edited);
     std::array<float, 3> Percentages();
+    std::array<float, 3> ShownPercentages();
 
     ProjectRecords& records_;
     SelectionMode side_;

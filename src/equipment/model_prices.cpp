@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "platform/text/number_text.h"
+#include "platform/text/runtime_error.h"
 #include "pricing/list_base.h"
 #include "pricing/relations.h"
 
@@ -36,6 +37,19 @@ float SumWithQuantities(const ProjectRecords& records,
     return StoreSingle(sum);
 }
 
+/// Rebuilds figures of the price table; one beyond the range of a float leaves all of them as they
+/// were.
+template <class Step>
+void Rebuild(SystemTendosRecord& table, Step step) {
+    SystemTendosRecord rebuilt = table;
+    try {
+        step(rebuilt);
+    } catch (const RuntimeError&) {
+        return;
+    }
+    table = rebuilt;
+}
+
 }  // namespace
 
 std::int16_t ModelQuantity(const ProjectRecords& records, SelectionMode side, int system) {
@@ -51,27 +65,31 @@ void SetModelQuantity(ProjectRecords& records, SelectionMode side, int system,
 }
 
 void RebuildListBases(ProjectRecords& records) {
-    SystemTendosRecord& tendos = records.SystemTendos;
-    tendos.ModelLDPrice = SumWithQuantities(records, &ModelPriceColumns::listPrice);
-    RebuildTotalListBase(tendos);
+    Rebuild(records.SystemTendos, [&](SystemTendosRecord& table) {
+        table.ModelLDPrice = SumWithQuantities(records, &ModelPriceColumns::listPrice);
+        RebuildTotalListBase(table);
+    });
 }
 
 void RebuildModelRow(ProjectRecords& records) {
-    SystemTendosRecord& tendos = records.SystemTendos;
-    tendos.ModelDealerCost = SumWithQuantities(records, &ModelPriceColumns::dealerCost);
-    tendos.ModelDealerOverride = SumWithQuantities(records, &ModelPriceColumns::dealerOverride);
     double lists = 0;
     for (const ModelInfoRecord& info : records.ModelInfo)
         for (const SelectionMode side : Sides)
             lists += static_cast<double>(info.*PricesOf(side).listPrice);
-    tendos.ModelSalePrice = tendos.ModelLDPrice = StoreSingle(lists);
+    Rebuild(records.SystemTendos, [&](SystemTendosRecord& table) {
+        table.ModelDealerCost = SumWithQuantities(records, &ModelPriceColumns::dealerCost);
+        table.ModelDealerOverride = SumWithQuantities(records, &ModelPriceColumns::dealerOverride);
+        table.ModelSalePrice = table.ModelLDPrice = StoreSingle(lists);
+    });
 }
 
 void RecalcTax(ProjectRecords& records, float first, float second, float labor) {
-    SystemTendosRecord& tendos = records.SystemTendos;
     double taxable = static_cast<double>(first) + second;
     if (records.GPDProjectFormat.TaxLabor) taxable += labor;
-    tendos.TaxDealerCost = StoreSingle(taxable * static_cast<double>(tendos.TaxPercentage) / 100);
+    Rebuild(records.SystemTendos, [&](SystemTendosRecord& table) {
+        const double percentage = table.TaxPercentage;
+        table.TaxDealerCost = StoreSingle(taxable * percentage / 100);
+    });
 }
 
 }  // namespace tendo

@@ -15,6 +15,8 @@ std::int16_t ModelQuantity(const ProjectRecords& records, SelectionMode side, in
 void SetModelQuantity(ProjectRecords& records, SelectionMode side, int system,
                       std::string_view text);
 
+/// What follows changes nothing where a figure lies beyond the range of a float.
+
 /// The list base of the models: list price times quantity over all five systems; then the total's.
 void RebuildListBases(ProjectRecords& records);
 

@@ -38,12 +38,21 @@ float Info::*ColumnOf(SelectionMode side, OperatingCost cost) {
     return ColumnsOf(side).costs[static_cast<std::size_t>(cost)];
 }
 
-void StoreCost(Info& info, SelectionMode side, OperatingCost cost, float value) {
-    info.*ColumnOf(side, cost) = value;
-    if (cost == OperatingCost::Savings) return;
-    info.*ColumnOf(side, OperatingCost::Savings) =
-        StoreSingle(static_cast<double>(info.*ColumnOf(side, OperatingCost::Existing)) -
-                    info.*ColumnOf(side, OperatingCost::Proposed));
+/// Stores a cost with the savings that follow from it; false, and nothing changes, when they lie
+/// beyond the range of a float.
+bool StoreCost(Info& info, SelectionMode side, OperatingCost cost, float value) {
+    Info changed = info;
+    changed.*ColumnOf(side, cost) = value;
+    const double existing = changed.*ColumnOf(side, OperatingCost::Existing);
+    const double proposed = changed.*ColumnOf(side, OperatingCost::Proposed);
+    try {
+        if (cost != OperatingCost::Savings)
+            changed.*ColumnOf(side, OperatingCost::Savings) = StoreSingle(existing - proposed);
+    } catch (const RuntimeError&) {
+        return false;
+    }
+    info = changed;
+    return true;
 }
 
 }  // namespace
@@ -56,8 +65,7 @@ std::string OperatingCostText(const ProjectRecords& records, SelectionMode side,
 bool CommitOperatingCost(ProjectRecords& records, SelectionMode side, int system,
                          OperatingCost cost, std::string_view text) {
     if (text == OperatingCostText(records, side, system, cost)) return false;
-    StoreCost(SystemIn(records, system), side, cost, ValueOfText(text));
-    return true;
+    return StoreCost(SystemIn(records, system), side, cost, ValueOfText(text));
 }
 
 int OperatingCostSystem(const ProjectRecords& records, SelectionMode side, int system) {
@@ -69,7 +77,8 @@ void ChooseOperatingCost(ProjectRecords& records, SelectionMode side, int system
     const float chosen = SystemIn(records, choice - 1).*ColumnOf(side, OperatingCost::Existing);
     Info& info = SystemIn(records, system);
     info.*ColumnsOf(side).selected = static_cast<std::int16_t>(choice - 1);
-    StoreCost(info, side, OperatingCost::Existing, ValueOfText(FormatNumber(chosen, ListPicture)));
+    const float shown = ValueOfText(FormatNumber(chosen, ListPicture));
+    StoreCost(info, side, OperatingCost::Existing, shown);
 }
 
 }  // namespace tendo

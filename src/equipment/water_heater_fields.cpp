@@ -26,8 +26,10 @@ std::span<const ModelField> WaterHeaterFields() {
         Figure<wh, &WH::EFF>("txtWHEFF", "Efficiency:", "energy factor"),
         Bind<wh, &WH::FuelType>("txtWHFuelType", "Fuel Type:", Fuels),
         Database<wh>("txtWHDatabase", "WH Database:"),
-        Price<&ModelInfoRecord::WHModelDealerCost>("txtCost", "Cost:"),
-        Price<&ModelInfoRecord::WHSalePrice>("txtPrice", "Price:"),
+        Price<&ModelInfoRecord::WHModelDealerCost>(
+            "txtCost", "Cost:", "What one water heater costs you, in dollars."),
+        Price<&ModelInfoRecord::WHSalePrice>(
+            "txtPrice", "Price:", "What one water heater is sold for, in dollars."),
         Figure<wh, &WH::Height>("txtWHHT", "Height:", "inches"),
         Figure<wh, &WH::Length>("txtWHLen", "Len:", "inches"),
         Figure<wh, &WH::Width>("txtWHWID", "Width:", "inches"),

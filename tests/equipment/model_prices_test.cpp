@@ -201,5 +201,54 @@ TEST_F(ModelPrices, OtherTextThanAChoiceMayBeTyped) {
     EXPECT_EQ(records.HTGModelData[0].FuelType.Trimmed(), "Wood");
 }
 
+TEST_F(ModelPrices, SumsBeyondTheRangeLeaveThePriceTableAsItWas) {
+    records.SystemTendos.ModelDealerCost = 5;
+    records.SystemTendos.ModelLDPrice = 6;
+    records.SystemTendos.TaxDealerCost = 7;
+    records.SystemTendos.TaxPercentage = 100;
+    records.ModelInfo[0].CLGModelDealerCost = records.ModelInfo[0].CLGListPrice = 3e38F;
+    SetModelQuantity(records, Cooling, 0, "2");
+    RebuildModelRow(records);
+    RecalcTax(records, 3e38F, 3e38F, 0);
+    EXPECT_EQ(records.CLGModelData[0].ModelQty, 2);
+    EXPECT_EQ(records.SystemTendos.ModelDealerCost, 5);
+    EXPECT_EQ(records.SystemTendos.ModelLDPrice, 6);
+    EXPECT_EQ(records.SystemTendos.TaxDealerCost, 7);
+}
+
+TEST_F(ModelPrices, PercentagesBeyondTheRangeShowAsZero) {
+    records.ModelInfo[0].CLGModelDealerCost = records.ModelInfo[0].CLGModelDealerOverride = 3e38F;
+    records.ModelInfo[0].CLGSalePrice = 0;
+    line.Show(0);  // minus a hundred times the cost
+    EXPECT_EQ(line.Text(FieldKind::GrossMargin), "0.0");
+    EXPECT_EQ(line.Text(FieldKind::SalePrice), "$0.00");
+}
+
+TEST_F(ModelPrices, SavingsBeyondTheRangeChangeNoOperatingCost) {
+    EXPECT_TRUE(CommitOperatingCost(records, Cooling, 0, OperatingCost::Existing, "3E38"));
+    EXPECT_FALSE(CommitOperatingCost(records, Cooling, 0, OperatingCost::Proposed, "-3E38"));
+    EXPECT_EQ(records.SystemInfo[0].CLGProposedOpCost, 0);
+}
+
+TEST_F(ModelPrices, AQuantityIsHeldWithinItsRange) {
+    SetModelQuantity(records, Cooling, 0, "99999");
+    EXPECT_EQ(records.CLGModelData[0].ModelQty, 32767);
+    SetModelQuantity(records, Cooling, 0, "-3");
+    EXPECT_EQ(records.CLGModelData[0].ModelQty, 0);
+    SetModelQuantity(records, Cooling, 0, "two");
+    EXPECT_EQ(records.CLGModelData[0].ModelQty, 0);
+}
+
+TEST_F(ModelPrices, ATextIsCutAtTheWidthOfItsRecord) {
+    const ModelField& electrical = Field(CoolingMiscFields(), "txtCLGElectrical");
+    const ModelField& notes = Field(HeatingMiscFields(), "txtHTGNotes");
+    EXPECT_EQ(electrical.width, 35);
+    EXPECT_EQ(notes.width, 250);
+    CommitModelField(electrical, records, 0, std::string(40, 'e'));
+    CommitModelField(notes, records, 0, std::string(260, 'n'));
+    EXPECT_EQ(records.CLGModelData[0].Electrical.Trimmed(), std::string(35, 'e'));
+    EXPECT_EQ(records.HTGModelData[0].Notes.Trimmed(), std::string(250, 'n'));
+}
+
 }  // namespace
 }  // namespace tendo

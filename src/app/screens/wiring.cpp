@@ -46,7 +46,8 @@ void WirePricing() {
     PricingScreens().SelectModel = ShowModelSelection;
     ModelDatabasesChanged() = RefillPriceScreens;
     AfterModelSelection() = {RefillPriceScreens, [] { RefillSystemForm("frmDetailModelData"); },
-                             [] { RefillSystemForm("frmWHInfo"); }};
+                             [] { RefillSystemForm("frmWHInfo"); },
+                             [] { RefillSystemForm("frmMisModelData"); }};
 }
 
 }  // namespace

@@ -22,9 +22,10 @@ QGridLayout* MakeCardGrid(QFrame* card, const char* heading, const char* side) {
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(6);
     grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(3, 1);
     auto* title = new QLabel(heading, card);
     title->setStyleSheet("font-weight: bold; border: 0");
-    grid->addWidget(title, 0, 0, 1, 2);
+    grid->addWidget(title, 0, 0, 1, 4);
     return grid;
 }
 
@@ -46,6 +47,7 @@ frmDetailModelData::frmDetailModelData()
     column->addWidget(costs_);
     column->addWidget(MakeButtons());
     column->addStretch();
+    fields_.Chain();
     connect(&fields_, &ModelFieldLines::Taken, this,
             [this] { prices_->Show(State().SystemNumber); });
     Refill();
@@ -55,7 +57,7 @@ QWidget* frmDetailModelData::MakeModelCard(const char* heading, const char* side
                                            std::span<const ModelField> fields) {
     auto* card = new QFrame(Content());
     QGridLayout* grid = MakeCardGrid(card, heading, side);
-    fields_.AddColumn(fields, grid, card);
+    fields_.AddColumn(fields, heading, grid, card);
     grid->setRowStretch(grid->rowCount(), 1);
     return card;
 }
@@ -64,7 +66,7 @@ QWidget* frmDetailModelData::MakeButtons() {
     auto* box = new QWidget(Content());
     auto* row = new QHBoxLayout(box);
     row->setContentsMargins(0, 0, 0, 0);
-    auto* button = new QPushButton("&Miscellaneous model data…", box);
+    auto* button = new QPushButton("Miscella&neous model data…", box);
     button->setObjectName("btnMisModelData");
     connect(button, &QPushButton::clicked, this, [] { ShowMisModelData(); });
     row->addWidget(button);
@@ -81,8 +83,9 @@ void frmDetailModelData::Refill() {
 }
 
 void frmDetailModelData::FormUnload() {
+    const SystemTendosRecord before = Project().SystemTendos;
     RebuildModelRow(Project());
-    State().ProjectChanged = true;
+    if (!(Project().SystemTendos == before)) State().ProjectChanged = true;
     RefillPriceScreens();
 }
 
@@ -98,21 +101,27 @@ frmMisModelData::frmMisModelData()
     cards->addWidget(MakeModelCard("Heating", "heating", HeatingMiscFields()), 1);
     column->addLayout(cards);
     column->addStretch();
-    Refill();
+    fields_.Chain();
+    SetMiscModelData();
 }
 
 QWidget* frmMisModelData::MakeModelCard(const char* heading, const char* side,
                                         std::span<const ModelField> fields) {
     auto* card = new QFrame(Content());
     QGridLayout* grid = MakeCardGrid(card, heading, side);
-    fields_.AddColumn(fields, grid, card);
+    fields_.AddColumn(fields, heading, grid, card);
     grid->setRowStretch(grid->rowCount(), 1);
     return card;
 }
 
-void frmMisModelData::Refill() {
-    system_->setText("System " + QString::number(State().SystemNumber + 1));
-    fields_.Show(State().SystemNumber);
+void frmMisModelData::SetMiscModelData() {
+    const int system = State().SystemNumber;
+    system_->setText("System " + QString::number(system + 1));
+    fields_.Show(system);
+}
+
+void frmMisModelData::GetMiscModelData() {
+    fields_.Store();
 }
 
 void ShowMisModelData() {

@@ -36,9 +36,17 @@ class frmMisModelData : public SystemForm {
     Q_OBJECT
   public:
     frmMisModelData();
-    void Refill() override;
+    void Refill() override { SetMiscModelData(); }
+
+  protected:
+    void StoreFields() override { GetMiscModelData(); }
+    void FormUnload() override { GetMiscModelData(); }
 
   private:
+    /// Records to screen.
+    void SetMiscModelData();
+    /// Screen to records: what is being typed; all else went there when its field was left.
+    void GetMiscModelData();
     QWidget* MakeModelCard(const char* heading, const char* side,
                            std::span<const ModelField> fields);
 

@@ -17,10 +17,6 @@ namespace {
 /// Fields that stand in the left half of the card; the others stand right of them.
 constexpr int leftFields = 8;
 
-WHModelRecord& Heater() {
-    return Project().WHModelData.at(static_cast<std::size_t>(State().SystemNumber));
-}
-
 }  // namespace
 
 frmWHInfo::frmWHInfo() : SystemForm("frmWHInfo", "", Place::Child, "frmWHInfo") {
@@ -31,7 +27,9 @@ frmWHInfo::frmWHInfo() : SystemForm("frmWHInfo", "", Place::Child, "frmWHInfo") 
     column->addWidget(costs_);
     column->addWidget(MakeButtons());
     column->addStretch();
-    Refill();
+    fields_.Chain();
+    connect(&fields_, &ModelFieldLines::Taken, this, [this] { ShowMark(); });
+    SetWHModelInfo();
 }
 
 QWidget* frmWHInfo::MakeCard() {
@@ -70,14 +68,22 @@ QWidget* frmWHInfo::MakeButtons() {
     return box;
 }
 
+WHModelRecord& frmWHInfo::Heater() const {
+    return Project().WHModelData.at(static_cast<std::size_t>(system_));
+}
+
 void frmWHInfo::SetWHModelInfo() {
-    const int system = State().SystemNumber;
-    setWindowTitle("Water Heater Information for System " + QString::number(system + 1));
-    fields_.Show(system);
-    costs_->Show(system);
-    chkWHProvidesHeat_->setChecked(Heater().WHIsHydroAirComponent == 1);
+    system_ = State().SystemNumber;
+    setWindowTitle("Water Heater Information for System " + QString::number(system_ + 1));
+    fields_.Show(system_);
+    costs_->Show(system_);
+    ShowMark();
     const SystemTendosRecord& tendos = Project().SystemTendos;
     RecalcTax(Project(), tendos.ModelSalePrice, tendos.TaxMatSalePrice, tendos.LaborSalePrice);
+}
+
+void frmWHInfo::ShowMark() {
+    chkWHProvidesHeat_->setChecked(Heater().WHIsHydroAirComponent == 1);
 }
 
 /// The mark changes a line of the proposal and no price.
@@ -89,7 +95,7 @@ void frmWHInfo::chkWHProvidesHeat_Click() {
 void frmWHInfo::btnSelectWHModel_Click() {
     CommitFocusedField();
     ShowModelSelection(SelectionMode::WaterHeater);
-    Refill();
+    SetWHModelInfo();
 }
 
 }  // namespace tendo

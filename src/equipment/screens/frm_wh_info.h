@@ -19,13 +19,17 @@ class frmWHInfo : public SystemForm {
   private:
     QWidget* MakeCard();
     QWidget* MakeButtons();
+    /// Records to screen.
     void SetWHModelInfo();
+    void ShowMark();
+    WHModelRecord& Heater() const;
     void chkWHProvidesHeat_Click();
     void btnSelectWHModel_Click();
 
     ModelFieldLines fields_{this};
     OperatingCostGrid* costs_ = nullptr;
     QCheckBox* chkWHProvidesHeat_ = nullptr;
+    int system_ = 0;
 };
 
 }  // namespace tendo

@@ -1,11 +1,13 @@
 #include "equipment/screens/model_field_lines.h"
 
 #include <QGridLayout>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
 #include <QToolButton>
 
 #include "platform/qt/dialogs.h"
+#include "platform/qt/enhanced_input.h"
 #include "platform/qt/fields.h"
 #include "project/program_state.h"
 #include "project/screens/frm_help_info.h"
@@ -14,24 +16,34 @@ namespace tendo {
 namespace {
 
 constexpr int memoLines = 3;
+constexpr int figureWidth = 8;  // characters that a field shows at least
+constexpr int shortWidth = 9;   // of two texts side by side
+constexpr int textWidth = 20;
 constexpr const char* pricePrompt = "Please Enter the Model Cost:";  // of cost and price alike
 
 struct Style {
     EntryKind kind;
     const char* range;
     const char* unit;
+    int characters;
 };
+
+/// The width of a text that stands alone in its row or shares it.
+int TextWidth(const ModelField& field) {
+    const bool brief = field.choices.size() == 2 || field.beside;
+    return brief ? shortWidth : textWidth;
+}
 
 Style StyleOf(const ModelField& field) {
     switch (field.kind) {
         case ModelFieldKind::Number:
-            return {EntryKind::Money, "0.00 and up", field.unit};
+            return {EntryKind::Money, "0.00 and up", field.unit, figureWidth};
         case ModelFieldKind::Money:
-            return {EntryKind::Money, "0.00 to 9,999,999.99", "dollars"};
+            return {EntryKind::Money, "0.00 to 9,999,999.99", "dollars", figureWidth};
         case ModelFieldKind::Quantity:
-            return {EntryKind::Count, "0 to 32,767", "units"};
+            return {EntryKind::Count, "0 to 32,767", "units", figureWidth};
         default:
-            return {EntryKind::Text, "", ""};
+            return {EntryKind::Text, "", "", TextWidth(field)};
     }
 }
 
@@ -41,7 +53,31 @@ bool HasHelp(const ModelField& field) {
 
 /// "Fuel Type" of "Fuel Type:".
 QString Spoken(const ModelField& field) {
-    return QString(field.label).remove(':');
+    return QString(field.label).remove('&').remove(':');
+}
+
+/// The choices below the field, at Alt+Down. Taking one commits it.
+QListWidget* MakeChoiceList(const ModelField& field, TextField* line) {
+    auto* list = new QListWidget(line);
+    list->setWindowFlag(Qt::Popup);
+    list->setObjectName(QString(field.name).replace("txt", "lst"));
+    list->setAccessibleName("Choices for " + Spoken(field));
+    for (const char* choice : field.choices)
+        list->addItem(choice);
+    // Queued, for the field takes the choice first.
+    for (const auto taken : {&QListWidget::itemActivated, &QListWidget::itemClicked})
+        QObject::connect(list, taken, line, &TextField::Commit, Qt::QueuedConnection);
+    list->setFixedHeight(list->sizeHintForRow(0) * list->count() + 2 * list->frameWidth() + 4);
+    return list;
+}
+
+/// What goes beyond the width of the record isn't kept, so it isn't shown either.
+void KeepWithin(QPlainTextEdit* memo, int width) {
+    if (memo->toPlainText().size() <= width) return;
+    QTextCursor rest(memo->document());
+    rest.setPosition(width);
+    rest.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
+    rest.removeSelectedText();
 }
 
 /// What the choices' screen says of a field.
@@ -59,16 +95,36 @@ HelpInfo ChoicesOf(const ModelField& field, const std::string& text) {
 
 }  // namespace
 
-TextField* ModelFieldLines::At(const QString& name) const {
-    for (const Line& line : lines_)
-        if (name == QLatin1String(line.field->name)) return line.text;
-    return nullptr;
+QWidget* ModelFieldLines::Line::Control() const {
+    return text ? static_cast<QWidget*>(text) : memo;
 }
 
-void ModelFieldLines::AddColumn(std::span<const ModelField> fields, QGridLayout* grid,
-                                QWidget* parent) {
-    for (const ModelField& field : fields)
-        Add(field, grid, grid->rowCount(), 0, 1, parent);
+void ModelFieldLines::AddColumn(std::span<const ModelField> fields, const QString& side,
+                                QGridLayout* grid, QWidget* parent) {
+    side_ = side;
+    int row = grid->rowCount() - 1;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const bool pair = i + 1 < fields.size() && fields[i + 1].beside;
+        if (fields[i].beside)
+            Add(fields[i], grid, row, 2, 1, parent);
+        else
+            Add(fields[i], grid, ++row, 0, pair ? 1 : 3, parent);
+    }
+}
+
+void ModelFieldLines::Chain() {
+    std::vector<EnhancedInput*> inputs;
+    for (const Line& line : lines_) {
+        auto* input = new EnhancedInput(line.Control());
+        if (line.text && !line.field->choices.empty())
+            input->ComboFormListBox = MakeChoiceList(*line.field, line.text);
+        inputs.push_back(input);
+    }
+    ChainFields(inputs);
+}
+
+QString ModelFieldLines::SpokenName(const ModelField& field) const {
+    return side_.isEmpty() ? Spoken(field) : Spoken(field) + ", " + side_;
 }
 
 void ModelFieldLines::Add(const ModelField& field, QGridLayout* grid, int row, int column, int span,
@@ -85,7 +141,7 @@ void ModelFieldLines::Add(const ModelField& field, QGridLayout* grid, int row, i
         grid->addWidget(line, row, column + 1, 1, span);
         return;
     }
-    const QString about = QString("What can stand under %1?").arg(Spoken(field));
+    const QString about = QString("What can stand under %1?").arg(SpokenName(field));
     QToolButton* help = MakeHelpButton(QString(field.name).replace("txt", "btn"), about, parent);
     connect(help, &QToolButton::clicked, this, [this, &field, line] { WantHelp(field, line); });
     auto* both = new QHBoxLayout;
@@ -97,18 +153,21 @@ void ModelFieldLines::Add(const ModelField& field, QGridLayout* grid, int row, i
 
 TextField* ModelFieldLines::AddText(const ModelField& field, QWidget* parent) {
     const Style style = StyleOf(field);
+    const QByteArray spoken = SpokenName(field).toUtf8();
     FieldSpec spec{.name = field.name,
                    .label = field.label,
                    .kind = style.kind,
                    .range = style.range,
-                   .unit = style.unit};
+                   .unit = style.unit,
+                   .accessibleName = spoken.constData()};
     if (field.width > 0) spec.maxLength = field.width;
     auto* line = new TextField(spec, parent);
+    line->setMinimumWidth(line->fontMetrics().averageCharWidth() * style.characters + 24);
     connect(line, &TextField::Committed, this,
             [this, &field, line] { Commit(field, line->text()); });
-    connect(line, &TextField::HelpWanted, this, [this, &field, line] {
-        if (HasHelp(field)) WantHelp(field, line);
-    });
+    if (HasHelp(field))
+        connect(line, &TextField::HelpWanted, this,
+                [this, &field, line] { WantHelp(field, line); });
     lines_.push_back({&field, line});
     return line;
 }
@@ -116,11 +175,13 @@ TextField* ModelFieldLines::AddText(const ModelField& field, QWidget* parent) {
 QPlainTextEdit* ModelFieldLines::AddMemo(const ModelField& field, QWidget* parent) {
     auto* memo = new QPlainTextEdit(parent);
     memo->setObjectName(field.name);
-    memo->setAccessibleName(Spoken(field));
+    memo->setAccessibleName(SpokenName(field));
     memo->setTabChangesFocus(true);
     memo->setFixedHeight(memo->fontMetrics().lineSpacing() * memoLines + 20);
-    connect(memo, &QPlainTextEdit::textChanged, this,
-            [this, &field, memo] { Commit(field, memo->toPlainText()); });
+    connect(memo, &QPlainTextEdit::textChanged, this, [this, &field, memo] {
+        KeepWithin(memo, field.width);
+        Commit(field, memo->toPlainText());
+    });
     lines_.push_back({&field, nullptr, memo});
     return memo;
 }
@@ -128,10 +189,12 @@ QPlainTextEdit* ModelFieldLines::AddMemo(const ModelField& field, QWidget* paren
 void ModelFieldLines::ShowLine(const Line& line) {
     const QString text = QString::fromStdString(line.field->read(Project(), system_));
     const QScopedValueRollback<bool> showing(showing_, true);
-    if (line.text)
+    if (line.text) {
         line.text->ShowText(text);
-    else if (line.memo->toPlainText() != text)
-        line.memo->setPlainText(text);
+        // Descriptions and file names are often longer than their field.
+        if (line.field->kind == ModelFieldKind::Text) line.text->setToolTip(text);
+    }
+    if (line.memo && line.memo->toPlainText() != text) line.memo->setPlainText(text);
 }
 
 void ModelFieldLines::Show(int system) {
@@ -140,28 +203,40 @@ void ModelFieldLines::Show(int system) {
         ShowLine(line);
 }
 
+void ModelFieldLines::Store() {
+    for (const Line& line : lines_)
+        if (line.text && line.text->isModified()) line.text->Commit();
+}
+
 /// A dropped model empties its other fields as well. What stands in a memo stays as it is typed.
 void ModelFieldLines::Commit(const ModelField& field, const QString& text) {
     if (showing_) return;
     const bool taken = CommitModelField(field, Project(), system_, text.toStdString());
     if (taken) State().ProjectChanged = true;
+    const bool all = field.kind == ModelFieldKind::ModelNum;
     for (const Line& line : lines_)
-        if (line.text && (line.field == &field || field.kind == ModelFieldKind::ModelNum))
-            ShowLine(line);
-        else if (line.memo && field.kind == ModelFieldKind::ModelNum)
-            ShowLine(line);
+        if (all || (line.text && line.field == &field)) ShowLine(line);
     if (taken) Q_EMIT Taken(&field);
 }
 
 void ModelFieldLines::WantHelp(const ModelField& field, TextField* line) {
-    const std::string text = line->text().toStdString();
-    if (field.kind == ModelFieldKind::Money) {
-        const auto typed = Dialogs().Input({Spoken(field).toStdString(), pricePrompt, text});
-        if (!typed) return;
-        line->ShowText(QString::fromStdString(*typed));
-        return line->Commit();
-    }
-    HelpInfo info = ChoicesOf(field, text);
+    if (field.kind == ModelFieldKind::Money)
+        WantPrice(field, line);
+    else
+        WantChoice(field, line);
+}
+
+void ModelFieldLines::WantPrice(const ModelField& field, TextField* line) {
+    const std::string prompt = std::string(field.help) + "\n\n" + pricePrompt;
+    const auto typed =
+        Dialogs().Input({Spoken(field).toStdString(), prompt, line->text().toStdString()});
+    if (!typed) return;
+    line->ShowText(QString::fromStdString(*typed));
+    line->Commit();
+}
+
+void ModelFieldLines::WantChoice(const ModelField& field, TextField* line) {
+    HelpInfo info = ChoicesOf(field, line->text().toStdString());
     if (!ShowHelpInfo(info) || info.option == 0) return;
     line->ShowText(field.choices[static_cast<std::size_t>(info.option - 1)]);
     line->Commit();
