@@ -13,12 +13,9 @@
 #include "platform/files/ini_file_handler.h"
 #include "platform/files/profile.h"
 #include "platform/qt/fields.h"
-<<<<<<< Updated upstream
 #include "platform/qt/mnemonics.h"
 #include "platform/qt/spoken_names.h"
-=======
 #include "platform/qt/view_port.h"
->>>>>>> Stashed changes
 #include "platform/text/runtime_error.h"
 
 namespace tendo {
