@@ -1,0 +1,142 @@
+#include "platform/qt/rich_editor.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMimeData>
+#include <QTextDocument>
+
+#include "platform/print/rich_text.h"
+#include "platform/print/rtf_writer.h"
+#include "platform/qt/rich_document.h"
+
+namespace tendo {
+namespace {
+
+const std::string Styled =
+    "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}{\\f1 Times New Roman;}}"
+    "{\\colortbl ;\\red255\\green0\\blue0;}"
+    "\\pard\\qc\\f0\\fs32\\b Terms\\b0\\par"
+    "\\pard\\li720\\fi-360\\ri100\\sb60\\sa120\\tx1440 one\\tab two\\line three\\par"
+    "\\pard\\f1\\fs21\\i\\ul\\strike\\cf1 red\\par}";
+
+RichText RoundTrip(const RichText& text) {
+    QTextDocument document;
+    ShowRichText(document, text);
+    return RichTextOf(document);
+}
+
+TEST(RichDocument, FormatsSurviveTheEditor) {
+    const RichText text = RoundTrip(ReadRichText(Styled, {}));
+    ASSERT_EQ(text.paragraphs.size(), 3u);
+    EXPECT_EQ(text.paragraphs[0].align, RichAlign::Center);
+    EXPECT_EQ(text.paragraphs[0].runs[0].font, (FontSpec{"Arial", 320, true}));
+    const RichParagraph& second = text.paragraphs[1];
+    EXPECT_EQ(second.leftIndent, 720);
+    EXPECT_EQ(second.firstIndent, -360);
+    EXPECT_EQ(second.rightIndent, 100);
+    EXPECT_EQ(second.spaceBefore, 60);
+    EXPECT_EQ(second.spaceAfter, 120);
+    EXPECT_EQ(second.tabs, std::vector<int>{1440});
+    EXPECT_EQ(second.runs[0].text, "one\ttwo\nthree");
+    const RichRun& red = text.paragraphs[2].runs[0];
+    EXPECT_EQ(red.font, (FontSpec{"Times New Roman", 210, false, true, true, true}));
+    EXPECT_EQ(red.color, 0xFF0000u);
+    EXPECT_EQ(second.runs[0].color, 0u);
+}
+
+TEST(RichDocument, ABulletIsAPointOfAListInTheEditor) {
+    RichText text;
+    RichParagraph& point = text.paragraphs.emplace_back();
+    point.bullet = true;
+    point.leftIndent = 720;
+    point.firstIndent = -360;
+    point.runs = {{"•\tfirst", {"Arial", 240}, 0}};
+    QTextDocument document;
+    ShowRichText(document, text);
+    EXPECT_EQ(document.toPlainText(), "first");
+    const RichText back = RichTextOf(document);
+    ASSERT_EQ(back.paragraphs.size(), 1u);
+    EXPECT_TRUE(back.paragraphs[0].bullet);
+    EXPECT_EQ(back.paragraphs[0].leftIndent, 720);
+    EXPECT_EQ(back.paragraphs[0].runs[0].text, "•\t");
+    EXPECT_EQ(back.paragraphs[0].runs[1].text, "first");
+}
+
+TEST(RichEditor, ATextThatWasNotEditedIsGivenBackAsItWas) {
+    RichEditor editor;
+    editor.ShowText("{\\rtf1 {\\*\\unknown kept}text}");
+    EXPECT_FALSE(editor.IsEdited());
+    EXPECT_EQ(editor.Text(), "{\\rtf1 {\\*\\unknown kept}text}");
+    editor.textCursor().insertText("new ");
+    EXPECT_TRUE(editor.IsEdited());
+    EXPECT_EQ(ReadRichText(editor.Text(), {}).paragraphs[0].runs[0].text, "new text");
+}
+
+TEST(RichEditor, AnotherTextBeginsAnewWithoutHistory) {
+    RichEditor editor;
+    editor.ShowText("first");
+    editor.textCursor().insertText("x");
+    editor.ShowText("second");
+    editor.undo();
+    EXPECT_EQ(editor.toPlainText(), "second");
+    EXPECT_FALSE(editor.IsEdited());
+}
+
+TEST(RichEditor, ToolsFormatTheSelection) {
+    RichEditor editor;
+    editor.ShowText("words");
+    editor.selectAll();
+    editor.SetBold(true);
+    editor.SetItalic(true);
+    editor.SetUnderline(true);
+    editor.SetPointSize(8);
+    editor.SetFamily("Courier New");
+    editor.SetColor(QColor(0, 0, 255));
+    const RichText text = ReadRichText(editor.Text(), {});
+    const RichRun& run = text.paragraphs[0].runs[0];
+    EXPECT_EQ(run.font, (FontSpec{"Courier New", 160, true, true, true}));
+    EXPECT_EQ(run.color, 0x0000FFu);
+}
+
+TEST(RichEditor, BulletsAndIndentsGoOnAndOff) {
+    RichEditor editor;
+    editor.ShowText("point");
+    editor.SetBullets(true);
+    EXPECT_TRUE(ReadRichText(editor.Text(), {}).paragraphs[0].bullet);
+    editor.Indent(1);
+    EXPECT_EQ(ReadRichText(editor.Text(), {}).paragraphs[0].leftIndent, 720);
+    editor.SetBullets(false);
+    EXPECT_FALSE(ReadRichText(editor.Text(), {}).paragraphs[0].bullet);
+    EXPECT_EQ(ReadRichText(editor.Text(), {}).paragraphs[0].leftIndent, 0);
+    editor.Indent(2);
+    EXPECT_EQ(ReadRichText(editor.Text(), {}).paragraphs[0].leftIndent, 720);
+    editor.Indent(-3);
+    EXPECT_EQ(ReadRichText(editor.Text(), {}).paragraphs[0].leftIndent, 0);
+}
+
+TEST(RichEditor, TheClipboardCarriesRichText) {
+    RichEditor from;
+    from.ShowText(Styled);
+    from.selectAll();
+    from.copy();
+    RichEditor to;
+    to.paste();
+    EXPECT_EQ(to.toPlainText(), from.toPlainText());
+    const RichText text = ReadRichText(to.Text(), {});
+    EXPECT_TRUE(text.paragraphs[0].runs[0].font.bold);
+}
+
+TEST(RichEditor, PlainTextFromTheClipboardTakesTheFormatAtTheCaret) {
+    auto* data = new QMimeData;
+    data->setText("plain");
+    data->setHtml("<table><tr><td>web</td></tr></table>");
+    QApplication::clipboard()->setMimeData(data);
+    RichEditor editor;
+    editor.paste();
+    EXPECT_EQ(editor.toPlainText(), "plain");
+}
+
+}  // namespace
+}  // namespace tendo
