@@ -98,12 +98,7 @@ void TextField::SetEntryObserver(std::function<void(TextField*)> observer) {
 }
 
 void TextField::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_F1) {
-        // Without a help of its own the key goes on to the screen's page of the guide.
-        event->setAccepted(isSignalConnected(QMetaMethod::fromSignal(&TextField::HelpWanted)));
-        Q_EMIT HelpWanted();
-        return;
-    }
+    if (event->key() == Qt::Key_F1) return Ask(event);
     const QString typed = event->text();
     const bool printable = !typed.isEmpty() && typed.at(0).isPrint() &&
                            !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
@@ -113,6 +108,14 @@ void TextField::keyPressEvent(QKeyEvent* event) {
         if (!KeyFilter(typed.at(0), rest)) return;
     }
     QLineEdit::keyPressEvent(event);
+}
+
+/// Without an answer of its own the key goes on to the screen's page of the guide.
+void TextField::Ask(QKeyEvent* event) {
+    const bool why = event->modifiers() & Qt::ShiftModifier;
+    const auto signal = why ? &TextField::WhyWanted : &TextField::HelpWanted;
+    event->setAccepted(isSignalConnected(QMetaMethod::fromSignal(signal)));
+    Q_EMIT(this->*signal)();
 }
 
 void TextField::focusInEvent(QFocusEvent* event) {

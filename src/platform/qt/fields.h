@@ -66,6 +66,8 @@ class TextField : public QLineEdit {
     void Committed();
     /// F1 was pressed, or the field's help mark.
     void HelpWanted();
+    /// Shift+F1 was pressed: where does the figure come from?
+    void WhyWanted();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -75,6 +77,7 @@ class TextField : public QLineEdit {
   private:
     void Prepare();
     void ShowSigns();
+    void Ask(QKeyEvent* event);
     void setFocusProxyTarget(QWidget* next) { passTo_ = next; }
 
     EntryKind kind_ = EntryKind::Text;

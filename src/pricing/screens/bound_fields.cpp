@@ -3,70 +3,35 @@
 #include <QEvent>
 #include <QScopedValueRollback>
 
+#include "pricing/screens/price_entry.h"
+
 namespace tendo {
-namespace {
-
-constexpr const char* moneyRange = "0.00 to 9,999,999.99";
-constexpr const char* percentRange = "-999.9 to 999.9";
-
-/// How an entry line of a table field stands, and what the status bar tells of it.
-struct EntryStyle {
-    EntryKind kind;
-    const char* range;
-    const char* unit;
-};
-
-EntryStyle StyleOf(TableField field) {
-    if (TakesNoInput(field)) return {EntryKind::Figure, "", "dollars"};
-    switch (Describe(field).kind) {
-        case FieldKind::GrossMargin:
-        case FieldKind::PriceMarkup:
-        case FieldKind::ListDiscount:
-        case FieldKind::TotalGrossMargin:
-            return {EntryKind::Percent, percentRange, "percent"};
-        case FieldKind::TaxPercentage:
-            return {EntryKind::Money, "0.00 to 100.00", "percent"};
-        case FieldKind::ModelQty:
-            return {EntryKind::Count, "0 to 32,767", "units"};
-        case FieldKind::ModelDB:
-        case FieldKind::ModelNum:
-        case FieldKind::ModelText:
-            return {EntryKind::Text, "", ""};
-        default:
-            return {EntryKind::Money, moneyRange, "dollars"};
-    }
-}
-
-}  // namespace
 
 BoundFields::BoundFields(PriceTable& table, QObject* parent) : QObject(parent), table_(table) {
     table_.TextChanged = [this](TableField field) { TableChanged(field); };
 }
 
-TextField* BoundFields::Add(TableField field, const QString& spoken, QWidget* parent) {
-    const EntryStyle style = StyleOf(field);
-    const QByteArray name = spoken.toUtf8();
-    auto* line = new TextField(FieldSpec{.name = Describe(field).name,
-                                         .label = "",
-                                         .kind = style.kind,
-                                         .range = style.range,
-                                         .unit = style.unit,
-                                         .accessibleName = name.constData()},
-                               parent);
+TextField* BoundFields::Add(TableField field, QWidget* parent) {
+    TextField* line = MakePriceField(field, parent);
     fields_[static_cast<std::size_t>(field)] = line;
-    line->KeyFilter = [field](QChar key, const QString& rest) {
-        return KeyAllowed(field, key.unicode(), rest.toStdString());
-    };
     connect(line, &QLineEdit::textChanged, this,
             [this, field](const QString& text) { table_.SetText(field, text.toStdString()); });
     connect(line, &TextField::Committed, this, [this, field] { Commit(field); });
     connect(line, &TextField::HelpWanted, this,
             [this, field] { Q_EMIT HelpWanted(static_cast<int>(field)); });
+    connect(line, &TextField::WhyWanted, this,
+            [this, field] { Q_EMIT WhyWanted(static_cast<int>(field)); });
     return line;
 }
 
 TextField* BoundFields::At(TableField field) const {
     return fields_[static_cast<std::size_t>(field)];
+}
+
+std::optional<TableField> BoundFields::Focused() const {
+    for (std::size_t i = 0; i < fields_.size(); ++i)
+        if (fields_[i] && fields_[i]->hasFocus()) return static_cast<TableField>(i);
+    return std::nullopt;
 }
 
 void BoundFields::PassFocus(TableField from, TableField to) {
@@ -95,6 +60,7 @@ void BoundFields::Commit(TableField field) {
 }
 
 void BoundFields::Run(const std::function<void()>& step, TextField* edited) {
+    if (collecting_) return step();
     {
         const QScopedValueRollback<bool> collecting(collecting_, true);
         changed_.clear();
@@ -106,13 +72,7 @@ void BoundFields::Run(const std::function<void()>& step, TextField* edited) {
 }
 
 void BoundFields::Enter(TableField field, const QString& text) {
-    QString taken;
-    for (const QChar key : text)
-        if (KeyAllowed(field, key.unicode(), taken.toStdString())) taken += key;
-    TextField* line = At(field);
-    line->setFocus();  // first, for leaving another field recalculates
-    line->ShowText(taken);
-    line->Commit();
+    EnterText(At(field), text);
 }
 
 void FitText(TextField* field, const QString& text) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <optional>
 
 #include "platform/qt/fields.h"
 #include "pricing/price_table.h"
@@ -17,15 +18,17 @@ class BoundFields : public QObject {
   public:
     BoundFields(PriceTable& table, QObject* parent);
 
-    /// A new entry line for a field, with its keys, its place on the status bar and its control
-    /// name. `spoken`: what the field is called ("Gross margin of labor").
-    TextField* Add(TableField field, const QString& spoken, QWidget* parent);
+    /// A new entry line for a field.
+    TextField* Add(TableField field, QWidget* parent);
     /// nullptr when the screen has no line for the field.
     TextField* At(TableField field) const;
+    /// The field that holds the focus.
+    std::optional<TableField> Focused() const;
     /// A focus that lands on the field passes on to the other one, and commits the field.
     void PassFocus(TableField from, TableField to);
 
     /// Runs a step that recalculates, and marks the figures it changed as fresh, but not `edited`.
+    /// A step within a step counts with the outer one.
     void Run(const std::function<void()>& step, TextField* edited = nullptr);
     /// Takes the text as typed, key by key through the field's filter, and commits it.
     void Enter(TableField field, const QString& text);
@@ -34,6 +37,7 @@ class BoundFields : public QObject {
     /// A field was left, and the table has recalculated.
     void Recalculated();
     void HelpWanted(int field);
+    void WhyWanted(int field);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -3,15 +3,16 @@
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QPushButton>
-#include <QScrollArea>
 
 #include "platform/files/settings_store.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/theme.h"
 #include "pricing/screens/price_help.h"
-#include "pricing/screens/system_card_button.h"
+#include "pricing/screens/system_cards.h"
 #include "pricing/screens/view_switch.h"
+#include "pricing/screens/why_popup.h"
 #include "pricing/system_models.h"
+#include "pricing/why_price.h"
 #include "project/program_state.h"
 
 namespace tendo {
@@ -71,11 +72,7 @@ void frmSumModelData::ShowSurroundings() {
     fraModelInfo_->setProperty("caption", caption);
     fraModelInfo_->setAccessibleName(caption);
     modelHeading_->setText(caption);
-    for (int system = 0; system < SystemCount; ++system) {
-        auto* card = cards_[static_cast<std::size_t>(system)];
-        card->ShowCard(SystemCardOf(Project(), system));
-        card->setChecked(system == State().SystemNumber);
-    }
+    cards_->Show();
     const auto& exists = PricingScreens().ScreenExists;
     for (const auto& [button, screen] : screenButtons_)
         button->setEnabled(exists && exists(screen));
@@ -87,22 +84,28 @@ void frmSumModelData::ShowAfterEdit() {
     if (taxSum_->text() != before) taxSum_->MarkFresh();
 }
 
-void frmSumModelData::Refill() {
+void frmSumModelData::Fill() {
     table_.FieldChanged = true;
     table_.SetSystemTendos();
     SystemMoved();
 }
 
+void frmSumModelData::Refill() {
+    fields_.Run([this] { Fill(); });
+}
+
 void frmSumModelData::TakeTotals() {
-    Refill();
-    table_.GetSystemTendos();
-    table_.RecalcSubTotalSalePrice();
+    fields_.Run([this] {
+        Fill();
+        table_.GetSystemTendos();
+        table_.RecalcSubTotalSalePrice();
+    });
     ShowSurroundings();
 }
 
 void frmSumModelData::FollowSystem() {
     if (shownSystem_ == State().SystemNumber) return ShowSurroundings();
-    Refill();
+    Fill();
 }
 
 void frmSumModelData::SystemMoved() {
@@ -131,8 +134,10 @@ void frmSumModelData::SelectModel(ModelSide side) {
     if (!PricingScreens().SelectModel) return;
     CommitFocusedField();
     table_.GetSystemTendos();
-    PricingScreens().SelectModel(side);
-    fields_.Run([this] { table_.RecalcSubTotalSalePrice(); });
+    fields_.Run([this, side] {
+        PricingScreens().SelectModel(side);
+        table_.RecalcSubTotalSalePrice();
+    });
     ShowSurroundings();
 }
 
@@ -162,21 +167,28 @@ void frmSumModelData::chkHideInfo_Click() {
 }
 
 void frmSumModelData::WantHelp(TableField field) {
-    const PriceHelp& help = HelpOf(field);
-    const std::string title = help.title;
-    if (!help.prompt) return ShowMessage(title, help.text, MessageIcon::Information);
-    const std::string prompt = std::string(help.text) + "\n\n" + help.prompt;
-    const auto text = Dialogs().Input({title, prompt, table_.Text(field)});
+    CommitFocusedField();
+    const auto text = AskWithHelp(field, WhyPrice(table_, Project(), field), table_.Text(field));
     if (text) fields_.Enter(field, Q(*text));
 }
 
 /// A column's help mark asks for the row that holds the focus, without one for the models.
 void frmSumModelData::WantColumnHelp(FieldKind column) {
-    int row = price_row::Model;
-    for (int i = price_row::Model; i <= price_row::Labor; ++i)
-        for (int kind = 0; kind <= static_cast<int>(FieldKind::SalePrice); ++kind)
-            if (fields_.At(RowField(i, static_cast<FieldKind>(kind)))->hasFocus()) row = i;
-    WantHelp(RowField(row, column));
+    const int row = Describe(fields_.Focused().value_or(TableField::TaxSalePrice)).row;
+    const bool inGrid = row >= price_row::Model && row <= price_row::Labor;
+    WantHelp(RowField(inGrid ? row : price_row::Model, column));
+}
+
+void frmSumModelData::WantWhy(TableField field) {
+    CommitFocusedField();
+    const PriceReason reason = WhyPrice(table_, Project(), field);
+    if (reason.rule.empty()) return WantHelp(field);  // a text of the models
+    WhyPopup::ShowAt(fields_.At(field), reason);
+}
+
+void frmSumModelData::WantWhyInFocus() {
+    const std::optional<TableField> field = fields_.Focused();
+    WantWhy(field && *field < TableField::CLGDB ? *field : TableField::TotalSalePrice);
 }
 
 void ShowSumModelData() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include <vector>
 
 #include "platform/qt/form.h"
 #include "pricing/price_table.h"
@@ -12,12 +12,12 @@ class QGridLayout;
 class QFrame;
 class QLabel;
 class QPushButton;
-class QScrollArea;
+class QToolButton;
 class QVBoxLayout;
 
 namespace tendo {
 
-class SystemCardButton;
+class SystemCards;
 
 /// Summary Model Data: the price table of the project above, the cooling and heating model of one
 /// system below. It shows what PriceTable holds and tells it what is typed.
@@ -45,14 +45,17 @@ class frmSumModelData : public Form {
 
   private:
     // The layout (frm_sum_model_layout.cpp).
-    QWidget* MakeCards();
     QWidget* MakePrices();
     void AddHeadings(QGridLayout* grid, QWidget* parent);
     void AddPriceRows(QGridLayout* grid, QWidget* parent);
     void AddTotals(QGridLayout* grid, QWidget* parent);
     QWidget* MakeTaxLabel(QWidget* parent);
     QWidget* MakeEarnings();
-    void AddEarning(QVBoxLayout* column, QLabel* label, QWidget* value, QWidget* parent);
+    void AddEarning(QVBoxLayout* column, QLabel* label, QWidget* value, QWidget* help,
+                    QWidget* parent);
+    /// A help mark that asks for the one of these fields that holds the focus, else for the first.
+    QToolButton* MakeHelpMark(const char* name, const char* about, std::vector<TableField> fields,
+                              QWidget* parent);
     QWidget* MakeModels();
     QWidget* MakeModelCard(ModelSide side, QWidget* parent);
     QWidget* MakeScreenButtons();
@@ -62,6 +65,9 @@ class frmSumModelData : public Form {
     void ShowAfterEdit();
     void WantHelp(TableField field);
     void WantColumnHelp(FieldKind column);
+    void WantWhy(TableField field);
+    void WantWhyInFocus();
+    void Fill();
     void GoToSystem(int system);
     void SystemMoved();
     void SelectModel(ModelSide side);
@@ -74,9 +80,8 @@ class frmSumModelData : public Form {
 
     PriceTable table_{Project()};
     BoundFields fields_{table_, this};
-    QScrollArea* scroll_;
-    QWidget* content_;
-    std::array<SystemCardButton*, SystemCount> cards_{};
+    QWidget* content_ = nullptr;
+    SystemCards* cards_ = nullptr;
     QLabel* lblLabor_ = nullptr;
     QLabel* lblTax_ = nullptr;     // the tax and its percentage, in what it earns
     TextField* taxSum_ = nullptr;  // its amount

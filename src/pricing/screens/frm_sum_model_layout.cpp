@@ -2,14 +2,16 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QScrollArea>
+#include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "platform/qt/dialogs.h"
 #include "platform/qt/theme.h"
 #include "pricing/screens/frm_sum_model_data.h"
-#include "pricing/screens/system_card_button.h"
+#include "pricing/screens/scroll_column.h"
+#include "pricing/screens/system_cards.h"
 
 namespace tendo {
 namespace {
@@ -39,13 +41,12 @@ struct Row {
     int priceRow;
     const char* labelName;
     const char* label;
-    const char* spoken;
 };
 constexpr Row rows[] = {
-    {price_row::Model, "lblModel", "&Models:", "models"},
-    {price_row::TaxMat, "lblTaxMat", "Taxa&ble materials:", "taxable materials"},
-    {price_row::NonTax, "lblNonTax", "&Non-taxable materials:", "non-taxable materials"},
-    {price_row::Labor, "lblLabor", "Labor (taxable):", "labor"},
+    {price_row::Model, "lblModel", "&Models:"},
+    {price_row::TaxMat, "lblTaxMat", "Taxa&ble materials:"},
+    {price_row::NonTax, "lblNonTax", "&Non-taxable materials:"},
+    {price_row::Labor, "lblLabor", "Labor (taxable):"},
 };
 
 /// Rows of the grid: the headings, the four rows, then these.
@@ -54,17 +55,12 @@ constexpr int subTotalRow = 5, taxRow = 6, totalRow = 7;
 struct Single {
     TableField field;
     int row, column;
-    const char* spoken;
 };
 constexpr Single singles[] = {
-    {TableField::SubTotalSalePrice, subTotalRow, 6, "Sub-total"},
-    {TableField::TaxDealerCost, taxRow, 1, "Tax as a cost"},
-    {TableField::TaxDealerOverride, taxRow, 2, "Override of the tax"},
-    {TableField::TaxSalePrice, taxRow, 6, "Tax"},
-    {TableField::TotalDealerCost, totalRow, 1, "Total dealer cost"},
-    {TableField::TotalDealerOverride, totalRow, 2, "Total override"},
-    {TableField::TotalGrossMargin, totalRow, 3, "Total gross margin"},
-    {TableField::TotalSalePrice, totalRow, 6, "Total sale price"},
+    {TableField::SubTotalSalePrice, subTotalRow, 6}, {TableField::TaxDealerCost, taxRow, 1},
+    {TableField::TaxDealerOverride, taxRow, 2},      {TableField::TaxSalePrice, taxRow, 6},
+    {TableField::TotalDealerCost, totalRow, 1},      {TableField::TotalDealerOverride, totalRow, 2},
+    {TableField::TotalGrossMargin, totalRow, 3},     {TableField::TotalSalePrice, totalRow, 6},
 };
 
 /// A computed figure without a box of its own; still marked when it is fresh.
@@ -77,16 +73,12 @@ void MakePlainFigure(TextField* field) {
 }  // namespace
 
 frmSumModelData::frmSumModelData()
-    : Form("frmSumModelData", "Summary Model Data", Place::Child, "frmSumModelData"),
-      scroll_(new QScrollArea(this)),
-      content_(new QWidget) {
-    auto* frame = new QVBoxLayout(this);
-    frame->setContentsMargins(0, 0, 0, 0);
-    frame->addWidget(scroll_);
-    auto* column = new QVBoxLayout(content_);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(14);
-    column->addWidget(MakeCards());
+    : Form("frmSumModelData", "Summary Model Data", Place::Child, "frmSumModelData") {
+    QVBoxLayout* column = MakeScrollColumn(this);
+    content_ = column->parentWidget();
+    cards_ = new SystemCards(content_);
+    connect(cards_, &SystemCards::Chosen, this, &frmSumModelData::GoToSystem);
+    column->addWidget(cards_);
     auto* upper = new QHBoxLayout;
     upper->setSpacing(24);
     upper->addWidget(MakePrices(), 1);
@@ -95,12 +87,6 @@ frmSumModelData::frmSumModelData()
     column->addWidget(MakeModels());
     column->addWidget(MakeScreenButtons());
     column->addStretch();
-    scroll_->setWidgetResizable(true);
-    scroll_->setFrameShape(QFrame::NoFrame);
-    scroll_->setFocusPolicy(Qt::NoFocus);
-    scroll_->setWidget(content_);
-    setMinimumSize(520, 320);
-
     PassFocusOn();
     setFocusProxy(fields_.At(TableField::ModelDealerOverride));
     table_.ShowMessage = [](const std::string& title, const std::string& text) {
@@ -109,22 +95,22 @@ frmSumModelData::frmSumModelData()
     connect(&fields_, &BoundFields::Recalculated, this, &frmSumModelData::ShowAfterEdit);
     connect(&fields_, &BoundFields::HelpWanted, this,
             [this](int field) { WantHelp(static_cast<TableField>(field)); });
+    connect(&fields_, &BoundFields::WhyWanted, this,
+            [this](int field) { WantWhy(static_cast<TableField>(field)); });
     table_.Open();
     SystemMoved();
 }
 
-QWidget* frmSumModelData::MakeCards() {
-    auto* box = new QWidget(content_);
-    auto* row = new QHBoxLayout(box);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
-    for (int system = 0; system < SystemCount; ++system) {
-        auto* card = new SystemCardButton(system, box);
-        connect(card, &QAbstractButton::clicked, this, [this, system] { GoToSystem(system); });
-        row->addWidget(card, 1);
-        cards_[static_cast<std::size_t>(system)] = card;
-    }
-    return box;
+QToolButton* frmSumModelData::MakeHelpMark(const char* name, const char* about,
+                                           std::vector<TableField> fields, QWidget* parent) {
+    QToolButton* help = MakeHelpButton(name, about, parent);
+    help->setFocusPolicy(Qt::NoFocus);  // the field in focus is asked about; F1 does the same
+    connect(help, &QToolButton::clicked, this, [this, fields = std::move(fields)] {
+        const auto focused =
+            std::find(fields.begin(), fields.end(), fields_.Focused().value_or(fields.front()));
+        WantHelp(focused == fields.end() ? fields.front() : *focused);
+    });
+    return help;
 }
 
 QWidget* frmSumModelData::MakePrices() {
@@ -132,7 +118,17 @@ QWidget* frmSumModelData::MakePrices() {
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(4);
-    column->addWidget(MakeHeading("Price of the project, all systems", box));
+    auto* head = new QHBoxLayout;
+    auto* why = new QPushButton("Why this price?", box);
+    why->setObjectName("btnWhy");
+    why->setProperty("link", true);
+    why->setToolTip("Where the figure in focus comes from (Shift+F1)");
+    why->setFocusPolicy(Qt::NoFocus);
+    connect(why, &QPushButton::clicked, this, &frmSumModelData::WantWhyInFocus);
+    head->addWidget(MakeHeading("Price of the project, all systems", box));
+    head->addStretch();
+    head->addWidget(why);
+    column->addLayout(head);
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(6);
@@ -174,9 +170,8 @@ void frmSumModelData::AddPriceRows(QGridLayout* grid, QWidget* parent) {
         grid->addWidget(label, row.priceRow, labelColumn);
         int at = labelColumn;
         for (const Column& column : columns) {
-            const QString spoken = QString("%1 of %2").arg(column.spoken, row.spoken);
-            grid->addWidget(fields_.Add(RowField(row.priceRow, column.kind), spoken, parent),
-                            row.priceRow, ++at);
+            grid->addWidget(fields_.Add(RowField(row.priceRow, column.kind), parent), row.priceRow,
+                            ++at);
         }
         label->setBuddy(fields_.At(RowField(row.priceRow, FieldKind::DealerOverride)));
         if (row.priceRow == price_row::Labor) lblLabor_ = label;
@@ -188,7 +183,7 @@ QWidget* frmSumModelData::MakeTaxLabel(QWidget* parent) {
     auto* row = new QHBoxLayout(box);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
-    TextField* percentage = fields_.Add(TableField::TaxPercentage, "Tax percentage", box);
+    TextField* percentage = fields_.Add(TableField::TaxPercentage, box);
     FitText(percentage, "100.00");
     percentage->setMaximumWidth(percentage->minimumWidth());
     auto* label = new QLabel("Ta&x:", box);
@@ -196,30 +191,50 @@ QWidget* frmSumModelData::MakeTaxLabel(QWidget* parent) {
     row->addWidget(label);
     row->addWidget(percentage);
     row->addWidget(new QLabel("%", box));
+    row->addWidget(MakeHelpMark("btnHelpTaxPercentage", "What is the tax percentage?",
+                                {TableField::TaxPercentage}, box));
     row->addStretch();
     return box;
 }
 
 void frmSumModelData::AddTotals(QGridLayout* grid, QWidget* parent) {
-    grid->addWidget(new QLabel("Sub-total:", parent), subTotalRow, labelColumn);
+    const auto label = [&](QLabel* text, QToolButton* help, int row) {
+        auto* cell = new QHBoxLayout;
+        cell->setSpacing(8);
+        cell->addWidget(text);
+        cell->addWidget(help);
+        cell->addStretch();
+        grid->addLayout(cell, row, labelColumn);
+    };
+    label(new QLabel("Sub-total:", parent),
+          MakeHelpMark("btnHelpSubTotal", "What is the sub-total?", {TableField::SubTotalSalePrice},
+                       parent),
+          subTotalRow);
     grid->addWidget(MakeTaxLabel(parent), taxRow, labelColumn);
     auto* total = new QLabel("T&otal:", parent);
     total->setStyleSheet("font-weight: bold");
-    grid->addWidget(total, totalRow, labelColumn);
+    label(total,
+          MakeHelpMark("btnHelpTotal", "What is the total?",
+                       {TableField::TotalSalePrice, TableField::TotalGrossMargin,
+                        TableField::TotalDealerCost, TableField::TotalDealerOverride},
+                       parent),
+          totalRow);
     for (const Single& single : singles) {
-        TextField* field = fields_.Add(single.field, single.spoken, parent);
+        TextField* field = fields_.Add(single.field, parent);
         field->setProperty("strong", single.row == totalRow);
         grid->addWidget(field, single.row, single.column);
     }
     total->setBuddy(fields_.At(TableField::TotalGrossMargin));
 }
 
-void frmSumModelData::AddEarning(QVBoxLayout* column, QLabel* label, QWidget* value,
+void frmSumModelData::AddEarning(QVBoxLayout* column, QLabel* label, QWidget* value, QWidget* help,
                                  QWidget* parent) {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(12);
-    row->addWidget(label, 1);
+    row->setSpacing(8);
+    row->addWidget(label);
+    row->addWidget(help);
+    row->addStretch();
     row->addWidget(value);
     column->addLayout(row);
     column->addWidget(MakeRule(parent));
@@ -232,18 +247,22 @@ QWidget* frmSumModelData::MakeEarnings() {
     column->setSpacing(3);
     column->addWidget(MakeHeading("What it earns", box));
     column->addSpacing(4);
-    const auto figure = [&](TableField field, const char* name) {
-        TextField* line = fields_.Add(field, name, box);
+    const auto figure = [&](TableField field, const char* help, const char* about) {
+        TextField* line = fields_.Add(field, box);
         MakePlainFigure(line);
-        AddEarning(column, MakeLabel(name, nullptr, box), line, box);
+        QLabel* label = MakeLabel(FieldTitle(field).c_str(), nullptr, box);
+        AddEarning(column, label, line, MakeHelpMark(help, about, {field}, box), box);
     };
-    figure(TableField::TaxableAmount, "Taxable amount");
+    figure(TableField::TaxableAmount, "btnHelpTaxableAmount", "What is the taxable amount?");
     lblTax_ = MakeLabel("", nullptr, box);
-    taxSum_ = new TextField(FieldSpec{.name = "", .label = "Tax amount", .kind = EntryKind::Figure}, box);
+    taxSum_ =
+        new TextField(FieldSpec{.name = "", .label = "Tax amount", .kind = EntryKind::Figure}, box);
     MakePlainFigure(taxSum_);
-    AddEarning(column, lblTax_, taxSum_, box);
-    figure(TableField::Profit, "Profit");
-    figure(TableField::SuperProfit, "Extra profit");
+    AddEarning(column, lblTax_, taxSum_,
+               MakeHelpMark("btnHelpTax", "What is the tax?", {TableField::TaxSalePrice}, box),
+               box);
+    figure(TableField::Profit, "btnHelpProfit", "What is the profit?");
+    figure(TableField::SuperProfit, "btnHelpSuperProfit", "What is the extra profit?");
     auto* row = new QHBoxLayout;
     auto* caption = new QLabel("Total", box);
     caption->setFont(TotalFont());

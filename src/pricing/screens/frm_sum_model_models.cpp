@@ -15,7 +15,8 @@ namespace {
 struct Side {
     const char* heading;
     const char* style;
-    const char* spoken;
+    const char* helpButton;
+    const char* about;
     const char* selectButton;
     const char* selectCaption;
     const char* numberButton;
@@ -24,14 +25,16 @@ struct Side {
 };
 const Side& SideOf(ModelSide side) {
     static const Side sides[] = {
-        {"Cooling", "cooling", "Cooling", "btnSelectCLGModel", "Select &cooling model…",
-         "btnCLGModelNum", "btnCLGDB", TableField::CLGDB, TableField::CLGModelNum,
-         TableField::CLGModelQty, TableField::CLGModelDesc, TableField::CLGModelType,
-         TableField::CLGCap, TableField::CLGEFF},
-        {"Heating", "heating", "Heating", "btnSelectHTGModel", "Select heatin&g model…",
-         "btnHTGModelNum", "btnHTGDB", TableField::HTGDatabase, TableField::HTGModelNum,
-         TableField::HTGModelQty, TableField::HTGModelDesc, TableField::HTGModelType,
-         TableField::HTGCap, TableField::HTGEFF}};
+        {"Cooling", "cooling", "btnHelpCLG", "What is told of the cooling model?",
+         "btnSelectCLGModel", "Select &cooling model…", "btnCLGModelNum", "btnCLGDB",
+         TableField::CLGDB, TableField::CLGModelNum, TableField::CLGModelQty,
+         TableField::CLGModelDesc, TableField::CLGModelType, TableField::CLGCap,
+         TableField::CLGEFF},
+        {"Heating", "heating", "btnHelpHTG", "What is told of the heating model?",
+         "btnSelectHTGModel", "Select heatin&g model…", "btnHTGModelNum", "btnHTGDB",
+         TableField::HTGDatabase, TableField::HTGModelNum, TableField::HTGModelQty,
+         TableField::HTGModelDesc, TableField::HTGModelType, TableField::HTGCap,
+         TableField::HTGEFF}};
     return sides[static_cast<std::size_t>(side)];
 }
 
@@ -129,8 +132,7 @@ QWidget* frmSumModelData::MakeModelCard(ModelSide which, QWidget* parent) {
     grid->setVerticalSpacing(6);
     const auto add = [&](TableField field, const char* label, int row, int at, int span,
                          QToolButton* button = nullptr) {
-        const QString spoken = QString("%1 %2").arg(side.spoken, QString(label).toLower());
-        TextField* line = fields_.Add(field, spoken, card);
+        TextField* line = fields_.Add(field, card);
         grid->addWidget(MakeLabel(label, line, card), row, at);
         if (!button) return grid->addWidget(line, row, at + 1, 1, span);
         QWidget::setTabOrder(line, button);
@@ -140,7 +142,16 @@ QWidget* frmSumModelData::MakeModelCard(ModelSide which, QWidget* parent) {
     heading->setStyleSheet("font-weight: bold; border: 0");
     QPushButton* select = MakeButton(side.selectButton, side.selectCaption, card);
     connect(select, &QPushButton::clicked, this, [this, which] { SelectModel(which); });
-    grid->addWidget(heading, 0, 0, 1, 2);
+    auto* help = MakeHelpMark(
+        side.helpButton, side.about,
+        {side.ModelNum, side.ModelQty, side.ModelDesc, side.ModelType, side.Cap, side.EFF, side.DB},
+        card);
+    auto* head = new QHBoxLayout;
+    head->setSpacing(8);
+    head->addWidget(heading);
+    head->addWidget(help);
+    head->addStretch();
+    grid->addLayout(head, 0, 0, 1, 2);
     grid->addWidget(select, 0, 2, 1, 4, Qt::AlignRight);
     QToolButton* number =
         MakeIconButton(side.numberButton, "search", "Choose from the database", card);

@@ -4,14 +4,22 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopedValueRollback>
+#include <QToolButton>
 #include <iterator>
 
 #include "platform/files/settings_store.h"
 #include "platform/qt/fields.h"
 #include "platform/text/number_text.h"
 #include "pricing/screens/frm_sum_model_data.h"
+#include "pricing/screens/price_entry.h"
+#include "pricing/screens/price_help.h"
+#include "pricing/screens/scroll_column.h"
+#include "pricing/screens/system_cards.h"
 #include "pricing/screens/view_switch.h"
+#include "pricing/screens/why_popup.h"
 #include "pricing/system_models.h"
+#include "pricing/why_price.h"
 #include "project/program_state.h"
 
 namespace tendo {
@@ -53,57 +61,60 @@ bool IsMoney(TableField field) {
 frmSumRptData::frmSumRptData()
     : Form("frmSumRptData", "Summary Report Data", Place::Child, "frmSumRptData") {
     WorkingScreen();
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(14);
+    QVBoxLayout* column = MakeScrollColumn(this);
+    cards_ = new SystemCards(this);
+    connect(cards_, &SystemCards::Chosen, this, &frmSumRptData::GoToSystem);
+    column->addWidget(cards_);
     column->addWidget(MakePrices());
     column->addWidget(MakeModels());
     column->addStretch();
     SetSystemTendos();
 }
 
-TextField* frmSumRptData::Add(TableField field, const char* spoken, QWidget* parent) {
-    const FieldKind kind = Describe(field).kind;
-    const bool text =
-        kind == FieldKind::ModelDB || kind == FieldKind::ModelNum || kind == FieldKind::ModelText;
-    const EntryKind entry = TakesNoInput(field)           ? EntryKind::Figure
-                            : text                        ? EntryKind::Text
-                            : kind == FieldKind::ModelQty ? EntryKind::Count
-                                                          : EntryKind::Money;
-    auto* line = new TextField(
-        FieldSpec{.name = Describe(field).name, .label = spoken, .kind = entry}, parent);
-    line->KeyFilter = [field](QChar key, const QString& rest) {
-        return KeyAllowed(field, key.unicode(), rest.toStdString());
-    };
+TextField* frmSumRptData::Add(TableField field, QWidget* parent) {
+    TextField* line = MakePriceField(field, parent);
     connect(line, &TextField::Committed, this, [this, field] { Commit(field); });
+    connect(line, &TextField::HelpWanted, this, [this, field] { WantHelp(field); });
+    connect(line, &TextField::WhyWanted, this, [this, field] { WantWhy(field); });
     fields_[field] = line;
     return line;
+}
+
+QToolButton* frmSumRptData::MakeHelpMark(TableField field, QWidget* parent) {
+    const QString name = QString(Describe(field).name).replace("txt", "btnHelp");
+    const QString title = QString::fromStdString(FieldTitle(field)).toLower();
+    QToolButton* help = MakeHelpButton(name, QString("What is the %1?").arg(title), parent);
+    help->setFocusPolicy(Qt::NoFocus);
+    connect(help, &QToolButton::clicked, this, [this, field] { WantHelp(field); });
+    return help;
 }
 
 QWidget* frmSumRptData::MakePrices() {
     auto* box = new QWidget(this);
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(16);
+    grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(6);
     grid->addWidget(MakeHeading("Sale prices", box), 0, 0, 1, 2);
     int at = 0;
     for (const PriceRow& row : priceRows) {
         auto* label = new QLabel(row.label, box);
-        TextField* line = Add(row.field, row.label, box);
+        TextField* line = Add(row.field, box);
         line->setProperty("strong", row.field == TableField::TotalSalePrice);
         label->setBuddy(line);
         if (row.field == TableField::LaborSalePrice) lblLabor_ = label;
         grid->addWidget(label, ++at, 0);
-        grid->addWidget(line, at, 1);
+        grid->addWidget(MakeHelpMark(row.field, box), at, 1);
+        grid->addWidget(line, at, 2);
     }
     auto* hide = new QCheckBox("C&ustomer's view", box);
     hide->setObjectName("chkHideInfo");
     hide->setChecked(true);
     connect(hide, &QCheckBox::clicked, this, &frmSumRptData::chkHideInfo_Click);
-    grid->addWidget(hide, 1, 2);
-    grid->setColumnMinimumWidth(1, 150);
-    grid->setColumnStretch(2, 1);
+    grid->addWidget(hide, 1, 4);
+    grid->setColumnMinimumWidth(2, 150);
+    grid->setColumnMinimumWidth(3, 16);
+    grid->setColumnStretch(4, 1);
     return box;
 }
 
@@ -144,18 +155,22 @@ QWidget* frmSumRptData::MakeModelCard(const char* heading, const char* side, Tab
     grid->setVerticalSpacing(6);
     auto* title = new QLabel(heading, card);
     title->setStyleSheet("font-weight: bold; border: 0");
-    grid->addWidget(title, 0, 0, 1, 2);
+    grid->addWidget(title, 0, 0, 1, 3);
     for (int i = 0; i < static_cast<int>(std::size(modelLabels)); ++i) {
-        TextField* line =
-            Add(static_cast<TableField>(static_cast<int>(first) + i), modelLabels[i], card);
+        const auto field = static_cast<TableField>(static_cast<int>(first) + i);
+        TextField* line = Add(field, card);
         grid->addWidget(MakeLabel(modelLabels[i], line, card), i + 1, 0);
-        grid->addWidget(line, i + 1, 1);
+        grid->addWidget(MakeHelpMark(field, card), i + 1, 1);
+        grid->addWidget(line, i + 1, 2);
     }
     return card;
 }
 
 void frmSumRptData::Show(TableField field, const std::string& text) {
-    fields_.at(field)->ShowText(QString::fromStdString(text));
+    TextField* line = fields_.at(field);
+    const QString shown = QString::fromStdString(text);
+    if (edited_ && *edited_ != field && line->text() != shown) line->MarkFresh();
+    line->ShowText(shown);
 }
 
 void frmSumRptData::SetSystemTendos() {
@@ -173,6 +188,7 @@ void frmSumRptData::SetSystemTendos() {
              sides[i / count].*ModelTextOrder[i % count]);
     fraModelInfo_->setText(QString::fromStdString(SystemCaption(State().SystemNumber)));
     ShowCaption(lblLabor_, QString::fromStdString(LaborLabel(Project())));
+    cards_->Show();
 }
 
 /// The arithmetic is the working screen's: the text goes there and its field is left there.
@@ -182,6 +198,7 @@ void frmSumRptData::Commit(TableField field) {
     if (field == TableField::TaxPercentage)
         text = FormatNumber(ValueOfText(text), percentagePicture);
     Show(field, text);
+    const QScopedValueRollback<std::optional<TableField>> edited(edited_, field);
     PriceTable& table = WorkingScreen().Table();
     table.SetText(field, text);
     table.Commit(field);
@@ -197,6 +214,27 @@ void frmSumRptData::Move(bool next) {
     else
         table.PreviousSystem();
     SetSystemTendos();
+}
+
+void frmSumRptData::GoToSystem(int system) {
+    while (State().SystemNumber != system)
+        Move(true);
+}
+
+void frmSumRptData::WantHelp(TableField field) {
+    CommitFocusedField();
+    TextField* line = fields_.at(field);
+    const auto text =
+        AskWithHelp(field, WhyCustomerPrice(WorkingScreen().Table(), Project(), field),
+                    line->text().toStdString());
+    if (text) EnterText(line, QString::fromStdString(*text));
+}
+
+void frmSumRptData::WantWhy(TableField field) {
+    CommitFocusedField();
+    const PriceReason reason = WhyCustomerPrice(WorkingScreen().Table(), Project(), field);
+    if (reason.rule.empty()) return WantHelp(field);  // a text of the models
+    WhyPopup::ShowAt(fields_.at(field), reason);
 }
 
 void frmSumRptData::chkHideInfo_Click() {

@@ -1,16 +1,18 @@
 #pragma once
 
 #include <map>
+#include <optional>
 
 #include "platform/qt/form.h"
 #include "pricing/price_fields.h"
 
 class QGridLayout;
 class QLabel;
+class QToolButton;
 
 namespace tendo {
 
-class PriceTable;
+class SystemCards;
 class TextField;
 
 /// The customer's view of the price table: sale prices and the models, no costs. Every edit goes to
@@ -29,13 +31,19 @@ class frmSumRptData : public Form {
     QWidget* MakePrices();
     QWidget* MakeModels();
     QWidget* MakeModelCard(const char* heading, const char* side, TableField first);
-    TextField* Add(TableField field, const char* spoken, QWidget* parent);
+    TextField* Add(TableField field, QWidget* parent);
+    QToolButton* MakeHelpMark(TableField field, QWidget* parent);
     void Commit(TableField field);
     void Show(TableField field, const std::string& text);
     void Move(bool next);
+    void GoToSystem(int system);
+    void WantHelp(TableField field);
+    void WantWhy(TableField field);
     void chkHideInfo_Click();
 
     std::map<TableField, TextField*> fields_;
+    std::optional<TableField> edited_;  // while what it changes is shown
+    SystemCards* cards_ = nullptr;
     QLabel* lblLabor_ = nullptr;
     QLabel* fraModelInfo_ = nullptr;
 };

@@ -1,5 +1,7 @@
 #include "pricing/screens/price_help.h"
 
+#include "platform/qt/dialogs.h"
+
 namespace tendo {
 namespace {
 
@@ -102,6 +104,18 @@ const PriceHelp& HelpOf(TableField field) {
     for (const KindHelp& row : helps)
         if (row.kind == kind) return row.help;
     return helps[0].help;
+}
+
+std::optional<std::string> AskWithHelp(TableField field, const PriceReason& reason,
+                                       const std::string& text) {
+    const PriceHelp& help = HelpOf(field);
+    std::string told = help.text;
+    if (!reason.rule.empty()) told += "\n\n" + reason.figure + " now: " + reason.rule;
+    for (const std::string* line : {&reason.worked, &reason.note})
+        if (!line->empty()) told += "\n" + *line;
+    if (help.prompt) return Dialogs().Input({help.title, told + "\n\n" + help.prompt, text});
+    ShowMessage(help.title, told, MessageIcon::Information);
+    return std::nullopt;
 }
 
 }  // namespace tendo

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "pricing/price_fields.h"
+#include "pricing/price_reason.h"
 
 namespace tendo {
 
@@ -12,5 +16,10 @@ struct PriceHelp {
 };
 
 const PriceHelp& HelpOf(TableField field);
+
+/// Shows the help of a field with the reason of its figure, and asks for another text, `text` at
+/// first; nothing on cancel and for fields that take no input.
+std::optional<std::string> AskWithHelp(TableField field, const PriceReason& reason,
+                                       const std::string& text);
 
 }  // namespace tendo
