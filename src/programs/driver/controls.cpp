@@ -180,7 +180,7 @@ QAbstractItemModel* ModelOf(QWidget* control) {
 Json PropertyOf(QWidget* control, const std::string& property) {
     QAbstractItemModel* model = ModelOf(control);
     if (auto* button = qobject_cast<QAbstractButton*>(control); button && property == "caption")
-        return S(button->text());
+        return S(OwnCaption(button));
     if (property.empty() || property == "text" || property == "caption")
         return TextOfControl(control);
     if (property == "kind") return KindOf(control);
