@@ -84,6 +84,13 @@ TEST(RichEditor, AnotherTextBeginsAnewWithoutHistory) {
     EXPECT_FALSE(editor.IsEdited());
 }
 
+TEST(RichEditor, EachLineOfAPlainTextIsAParagraph) {
+    RichEditor editor;
+    editor.ShowText("one\r\n\r\ntwo");
+    EXPECT_EQ(editor.document()->blockCount(), 3);
+    EXPECT_EQ(editor.toPlainText(), "one\n\ntwo");
+}
+
 TEST(RichEditor, ToolsFormatTheSelection) {
     RichEditor editor;
     editor.ShowText("words");

@@ -22,6 +22,23 @@ const RichRun& Base() {
     return base;
 }
 
+/// In the editor each line of a plain text is a paragraph of its own.
+RichText LinesAsParagraphs(const RichText& text) {
+    RichText lines;
+    for (const RichRun& run : text.paragraphs.front().runs) {
+        std::size_t at = 0;
+        for (;;) {
+            const std::size_t end = run.text.find('\n', at);
+            RichRun line = run;
+            line.text = run.text.substr(at, end - at);
+            lines.paragraphs.emplace_back().runs.push_back(std::move(line));
+            if (end == std::string::npos) break;
+            at = end + 1;
+        }
+    }
+    return lines;
+}
+
 QByteArray RichBytesOf(const QMimeData* source) {
     for (const char* format : RichFormats)
         if (source->hasFormat(format)) return source->data(format);
@@ -39,7 +56,8 @@ RichEditor::RichEditor(QWidget* parent) : QTextEdit(parent) {
 
 void RichEditor::ShowText(const std::string& text) {
     shown_ = text;
-    ShowRichText(*document(), ReadRichOrPlainText(text, Base()));
+    const RichText rich = ReadRichOrPlainText(text, Base());
+    ShowRichText(*document(), IsRichText(text) ? rich : LinesAsParagraphs(rich));
     if (document()->isEmpty()) setCurrentCharFormat(CharFormatOf(Base()));
     document()->clearUndoRedoStacks();
     document()->setModified(false);

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <string_view>
+
+class QComboBox;
+class QHBoxLayout;
+class QToolButton;
+
+namespace tendo {
+
+class RichEditor;
+struct EditTool;
+
+/// The band "EditBand": the tools of a footnote's editor. They are controls of the screen under
+/// their own names; a timer keeps their state in line with the selection.
+class EditBar : public QWidget {
+    Q_OBJECT
+  public:
+    EditBar(RichEditor* editor, QWidget* parent);
+
+    /// The timer, under its name, belongs to the screen.
+    static constexpr const char* TimerName = "tmrToolbarTimer";
+
+    // What tools do that takes more than a call of the editor.
+    void ImportTextFile();
+    void PickColor();
+    void Insert(std::string_view token);
+
+  private:
+    void AddTools(QHBoxLayout* row);
+    QToolButton* MakeTool(const EditTool& tool);
+    void AddFonts(QHBoxLayout* row);
+    void ShowState();
+
+    void SetFont();
+    void SetFontSize();
+
+    RichEditor* editor_;
+    QTimer timer_;
+    QComboBox* fonts_ = nullptr;
+    QComboBox* sizes_ = nullptr;
+};
+
+}  // namespace tendo

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "footnotes/project_footnotes.h"
+
+class QListWidget;
+class QPushButton;
+class QWidget;
+
+namespace tendo {
+
+/// What the footnote screens have in common.
+
+/// Runs a command; the database engine's error is shown and the lists stay as they are. False then.
+bool RunFootnoteCommand(const std::function<void()>& command);
+
+/// Asks for a footnote's name until it has no apostrophe; empty when the user gave none.
+std::string AskFootnoteName();
+
+/// A list of names, each in its row, with the row kept current where it still exists.
+void FillFootnoteList(QListWidget* list, const std::vector<std::string>& names);
+std::vector<std::string> NamesOf(FootnoteList list);
+
+/// The name in the current row of a list; empty without one.
+std::string ChosenName(const QListWidget* list);
+
+QListWidget* MakeFootnoteList(const QString& name, const QString& accessibleName, QWidget* parent);
+QPushButton* MakeFootnoteButton(const QString& name, const QString& text, QWidget* parent,
+                                std::function<void()> run);
+
+/// Tells what became of a new footnote's name.
+void ShowMessages(const std::vector<std::string>& messages);
+
+}  // namespace tendo
