@@ -25,9 +25,11 @@ int main(int argc, char** argv) {
     WriteDesktop(desktop);
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + desktop.fileName().toLocal8Bit());
     QApplication application(argc, argv);
-    QFont font = QApplication::font();
-    font.setPointSize(qEnvironmentVariableIntValue("TENDO_TEST_FONT"));
-    if (font.pointSize() > 0) QApplication::setFont(font);
+    if (const int points = qEnvironmentVariableIntValue("TENDO_TEST_FONT")) {
+        QFont font = QApplication::font();
+        font.setPointSize(points);
+        QApplication::setFont(font);
+    }
     QApplication::setQuitOnLastWindowClosed(false);
     tendo::ApplyTheme(application);
     testing::InitGoogleTest(&argc, argv);

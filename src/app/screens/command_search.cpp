@@ -32,7 +32,9 @@ CommandSearch::CommandSearch(QWidget* parent) : QLineEdit(parent) {
     setObjectName("txtSearchCommands");
     setAccessibleName("Search commands");
     setPlaceholderText("Search commands");
-    setFixedWidth(fontMetrics().horizontalAdvance("Search commands  Ctrl+Shift+P") + 64);
+    constexpr int edges = 32;
+    setMinimumWidth(fontMetrics().horizontalAdvance("Search commands") + edges);
+    setMaximumWidth(fontMetrics().horizontalAdvance("Search commands  Ctrl+Shift+P") + 2 * edges);
     setFocusPolicy(Qt::ClickFocus);
     auto* completer = new QCompleter(&model_, this);
     completer->setCaseSensitivity(Qt::CaseInsensitive);

@@ -87,6 +87,7 @@ frmTip::frmTip()
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     connect(escape, &QShortcut::activated, this, [this] { Unload(); });
+    setTabOrder(chkLoadTipsAtStartup_, cmdNextTip_);
     LoadTips();
     DisplayCurrentTip();
     setFocusProxy(close);

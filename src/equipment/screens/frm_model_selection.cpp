@@ -73,7 +73,9 @@ void frmModelSelection::ShowTab(int tab) {
     const std::vector<int> widths =
         grid->FittingWidths(view->font(), view->horizontalHeader()->font());
     for (std::size_t column = 0; column < widths.size(); ++column)
-        view->setColumnWidth(static_cast<int>(column), widths[column]);
+        view->setColumnWidth(static_cast<int>(column),
+                             std::max(widths[column], view->horizontalHeader()->sectionSizeHint(
+                                                          static_cast<int>(column))));
     ShowCurrentRow(tab);
 }
 

@@ -191,6 +191,7 @@ QWidget* frmModelSelection::MakeCommandRow() {
         chkWHProvidesHeat_->setObjectName("chkWHProvidesHeat");
         row->addSpacing(8);
         row->addWidget(chkWHProvidesHeat_);
+        setTabOrder(btnRepeatSearch_, chkWHProvidesHeat_);
     }
     row->addWidget(lblChoice_, 1);
     row->addSpacing(8);

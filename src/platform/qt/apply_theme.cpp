@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFile>
+#include <QFontMetrics>
 #include <QPalette>
 #include <QTimer>
 #include <QWidget>
@@ -130,6 +131,13 @@ QString SheetOf(const ThemeColors& colors) {
                                 .arg(color.blue())
                                 .arg(color.alpha()));
     }
+    const int text = QFontMetrics(BodyFont()).height() + 3;
+    sheet.replace("@bodyInField", QString("%1px").arg(std::max(text, 20)));
+    sheet.replace("@bodyInButton", QString("%1px").arg(std::max(text, 16)));
+    // Around a question mark of the small size; the border comes on top.
+    const int ring = QFontMetrics(HeadingFont()).height() + 3;
+    sheet.replace("@halfRing", QString("%1px").arg(ring / 2 + 1));
+    sheet.replace("@ring", QString("%1px").arg(ring / 2 * 2));
     sheet.replace("@small", QString("%1pt").arg(HeadingFont().pointSizeF()));
     return sheet;
 }

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QLabel>
+#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
@@ -77,6 +78,27 @@ void Form::PrepareControls() {
     NameControls(this);
     const bool besideMenus = place_ == Place::Child && workspace;
     AssignMnemonics(this, besideMenus ? MenuBarLetters(workspace) : QString());
+    // Only the style sheet tells what a control needs.
+    for (const auto* control : findChildren<QWidget*>())
+        control->ensurePolished();
+    KeepRoomForControls();
+}
+
+/// Texts that run over lines need the more height the narrower a screen is, which its own minimum
+/// doesn't tell.
+void Form::KeepRoomForControls() {
+    if (!layout() || place_ == Place::Main || place_ == Place::Free) return;
+    if (designMinimum_.isNull()) designMinimum_ = minimumSize();
+    QSize smallest = designMinimum_.expandedTo(layout()->minimumSize());
+    if (layout()->hasHeightForWidth())
+        smallest.setHeight(
+            std::max(smallest.height(), layout()->minimumHeightForWidth(smallest.width())));
+    setMinimumSize(smallest);
+}
+
+bool Form::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest && isVisible()) KeepRoomForControls();
+    return QWidget::event(event);
 }
 
 void Form::ShowCaption(QLabel* label, const QString& text) {

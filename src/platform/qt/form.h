@@ -85,16 +85,19 @@ class Form : public QWidget {
     virtual void StoreFields() {}
     /// Runs when the form unloads, after QueryUnload agreed.
     virtual void FormUnload() {}
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
     void MakeSubWindow();
     void PrepareControls();
+    void KeepRoomForControls();
     void KeepPlacement();
 
     Place place_;
     QString placementSection_;
     QPointer<QMdiSubWindow> subWindow_;
+    QSize designMinimum_;
     bool modalLoop_ = false;
     bool unloaded_ = false;
 };

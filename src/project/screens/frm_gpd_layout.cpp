@@ -197,6 +197,7 @@ void frmGPD::AddPair(QGridLayout* grid, const PairSpec& pair, QWidget* page) {
     };
     *pair.first = make(pair.firstName, pair.firstCaption);
     *pair.second = make(pair.secondName, pair.secondCaption);
+    setTabOrder(*pair.second, pair.help);
     connect(*pair.first, &QRadioButton::toggled, this, &frmGPD::ControlChanged);
     grid->addWidget(MakeLabel(pair.label, *pair.first, page), row, 0);
     grid->addLayout(Row({*pair.first, *pair.second, pair.help}, true), row, 1);

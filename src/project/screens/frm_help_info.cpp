@@ -101,11 +101,11 @@ class frmHelpInfo : public Form {
     }
 
     void AddButtons(QVBoxLayout* column) {
+        auto* cancel = new QPushButton("Cancel", this);
+        cancel->setObjectName("btnCancel");
         auto* ok = new QPushButton("OK", this);
         ok->setObjectName("btnOk");
         ok->setProperty("primary", true);
-        auto* cancel = new QPushButton("Cancel", this);
-        cancel->setObjectName("btnCancel");
         auto* row = new QHBoxLayout;
         row->addStretch();
         row->addWidget(cancel);
