@@ -44,6 +44,8 @@ class PriceBook {
     bool ChangeDatabase(std::string_view path);
     /// Copies the empty database of the program directory to a name and changes to it.
     bool CreateNewDatabase(std::string_view path);
+    /// The file in use; another one after the book was read anew. nullptr without a database.
+    const BookFile* File() const { return file_.get(); }
     /// Empty without a database.
     std::string DatabaseName() const { return file_ ? file_->Name() : ""; }
 

@@ -11,6 +11,7 @@
 #include "equipment/screens/frm_model_selection.h"
 #include "equipment/screens/frm_wh_info.h"
 #include "materials/material_catalogue.h"
+#include "materials/screens/frm_edit_materials.h"
 #include "platform/database/database_hooks.h"
 #include "platform/qt/dialogs.h"
 #include "pricing/screens/frm_sum_model_data.h"
@@ -34,6 +35,7 @@ void EnterScreens() {
     RegisterScreen("frmDetailModelData", Make<frmDetailModelData>);
     RegisterScreen("frmMisModelData", Make<frmMisModelData>);
     RegisterScreen("frmWHInfo", Make<frmWHInfo>);
+    RegisterScreen("frmEditMaterials", Make<frmEditMaterials>);
     RegisterScreen("frmAbout", MakeAboutForm);
     RegisterScreen("frmTip", Make<frmTip>);
     RegisterScreen("frmStatus", Make<frmStatus>);

@@ -208,6 +208,8 @@ void Form::SetListObserver(std::function<void()> observer) {
 
 void Form::CommitFocusedField() {
     if (auto* field = qobject_cast<TextField*>(QApplication::focusWidget())) field->Commit();
+    for (Form* form : Loaded())
+        form->CommitEdits();
 }
 
 void Form::StoreAllFields() {

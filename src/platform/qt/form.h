@@ -60,8 +60,8 @@ class Form : public QWidget {
     /// Called after a form was loaded, shown or unloaded (Window menu).
     static void SetListObserver(std::function<void()> observer);
 
-    /// Commits the field in focus without moving the focus: what a menu, toolbar or closing command
-    /// does first.
+    /// Commits the field in focus without moving the focus, and the edits of all loaded forms: what
+    /// a menu, toolbar or closing command does first.
     static void CommitFocusedField();
 
     /// Commits the field in focus and lets every loaded form put what it holds in its fields into
@@ -83,6 +83,8 @@ class Form : public QWidget {
     virtual bool QueryUnload() { return true; }
     /// Puts what the form holds in its fields into the records.
     virtual void StoreFields() {}
+    /// Commits what is edited in the form otherwise than in fields, such as the rows of a grid.
+    virtual void CommitEdits() {}
     /// Runs when the form unloads, after QueryUnload agreed.
     virtual void FormUnload() {}
     bool event(QEvent* event) override;
