@@ -39,6 +39,7 @@ class Takeoff {
     /// Builds a view and shows it from its top. Does nothing while one is building.
     void Show(TakeoffView view);
     TakeoffView View() const { return view_; }
+    const std::vector<MaterialRow>& Catalogue() const { return catalogue_; }
     /// Rows of the view.
     int Count() const;
     const MaterialRow& Row(int position) const;

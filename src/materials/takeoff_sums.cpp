@@ -17,15 +17,10 @@ void StoreProjectRow(const MaterialRow& from, MaterialRow& row) {
     row.Category = category;
 }
 
-/// Cost and price of some lines, in double precision: a thousand lines stay exact to the cent.
-struct LineSum {
-    double cost = 0, sale = 0;
-
-    void Add(const MaterialRow& row) {
-        cost += static_cast<double>(row.UnitCst) * row.ItemQty;
-        sale += static_cast<double>(row.SalePrice);
-    }
-};
+void Add(const MaterialRow& row, LineSum& sum) {
+    sum.cost += static_cast<double>(row.UnitCst) * row.ItemQty;
+    sum.sale += static_cast<double>(row.SalePrice);
+}
 
 }  // namespace
 
@@ -38,20 +33,24 @@ void CatalogueToProjectMaterials() {
         if (row.ItemQty >= 1 && next < SavedMaterialRowCount) StoreProjectRow(row, rows[next++]);
 }
 
-void SumMaterials() {
-    LineSum taxable, others;
-    for (const MaterialRow& row : MaterialCatalogue()) {
-        if (row.Accessory != 0) continue;
-        if (row.Tax == 1)
-            taxable.Add(row);
+TakeoffSums SumTakeoff(std::span<const MaterialRow> rows) {
+    TakeoffSums sums;
+    for (const MaterialRow& row : rows) {
+        if (row.Accessory == 0 && row.Tax == 1)
+            Add(row, sums.taxable);
         else if (row.ItemQty > 0)
-            others.Add(row);
+            Add(row, row.Accessory == 0 ? sums.nonTaxable : sums.accessories);
     }
+    return sums;
+}
+
+void SumMaterials() {
+    const TakeoffSums sums = SumTakeoff(MaterialCatalogue());
     SystemTendosRecord& tendos = Project().SystemTendos;
-    tendos.TaxMatDealerCost = tendos.TaxMatDealerOverride = StoreSingle(taxable.cost);
-    tendos.TaxMatSalePrice = StoreSingle(taxable.sale);
-    tendos.NonTaxDealerCost = tendos.NonTaxDealerOverride = StoreSingle(others.cost);
-    tendos.NonTaxSalePrice = StoreSingle(others.sale);
+    tendos.TaxMatDealerCost = tendos.TaxMatDealerOverride = StoreSingle(sums.taxable.cost);
+    tendos.TaxMatSalePrice = StoreSingle(sums.taxable.sale);
+    tendos.NonTaxDealerCost = tendos.NonTaxDealerOverride = StoreSingle(sums.nonTaxable.cost);
+    tendos.NonTaxSalePrice = StoreSingle(sums.nonTaxable.sale);
 }
 
 void TakeMaterialListBases() {
@@ -69,6 +68,15 @@ void CommitTakeoff() {
     TakeMaterialListBases();
     if (rows != Project().ProjectMaterials || prices != Project().SystemTendos)
         State().ProjectChanged = true;
+}
+
+bool CommitOpenTakeoff() {
+    const std::vector<MaterialRow> rows = Project().ProjectMaterials;
+    CatalogueToProjectMaterials();
+    if (rows == Project().ProjectMaterials) return false;
+    SumMaterials();
+    TakeMaterialListBases();
+    return State().ProjectChanged = true;
 }
 
 }  // namespace tendo

@@ -10,10 +10,10 @@
 namespace tendo {
 namespace {
 
-class TakeoffSums : public testing::Test {
+class MaterialSums : public testing::Test {
   protected:
-    TakeoffSums() { Project() = ProjectRecords(); }
-    ~TakeoffSums() override { Project() = ProjectRecords(); }
+    MaterialSums() { Project() = ProjectRecords(); }
+    ~MaterialSums() override { Project() = ProjectRecords(); }
 
     static MaterialRow& Add(const std::string& description, int quantity, float unitCost,
                             float salePrice, std::int16_t tax = 0, std::int16_t accessory = 0) {
@@ -34,7 +34,7 @@ class TakeoffSums : public testing::Test {
     BookFolder folder_;
 };
 
-TEST_F(TakeoffSums, TaxableAndOtherRowsAreSummedApart) {
+TEST_F(MaterialSums, TaxableAndOtherRowsAreSummedApart) {
     Add("Boot", 4, 9.85F, 60, 1);       // cost 39.40
     Add("Flex", 2, 41.2F, 110.5F, 1);   // cost 82.40
     Add("Permit", 1, 75, 90);           // not taxable
@@ -49,7 +49,7 @@ TEST_F(TakeoffSums, TaxableAndOtherRowsAreSummedApart) {
     EXPECT_FLOAT_EQ(Prices().NonTaxSalePrice, 97.25F);  // 90.00 + 7.25
 }
 
-TEST_F(TakeoffSums, ATaxableRowWithoutQuantityAddsItsSalePriceButNoCost) {
+TEST_F(MaterialSums, ATaxableRowWithoutQuantityAddsItsSalePriceButNoCost) {
     // A load sets the sale price to the list cost, here 13.13.
     Add("Boot", 0, 9.85F, 13.13F, 1);
     SumMaterials();
@@ -60,7 +60,7 @@ TEST_F(TakeoffSums, ATaxableRowWithoutQuantityAddsItsSalePriceButNoCost) {
     EXPECT_EQ(Prices().TaxMatSalePrice, 0.0F);
 }
 
-TEST_F(TakeoffSums, AnAccessoryWithASalePriceChangesNoProjectTotal) {
+TEST_F(MaterialSums, AnAccessoryWithASalePriceChangesNoProjectTotal) {
     Add("Humidifier", 1, 200, 350, 1, 1);
     Add("Thermostat", 2, 80, 250, 0, 1);
     SumMaterials();
@@ -70,7 +70,7 @@ TEST_F(TakeoffSums, AnAccessoryWithASalePriceChangesNoProjectTotal) {
     EXPECT_EQ(Prices().NonTaxSalePrice, 0.0F);
 }
 
-TEST_F(TakeoffSums, AThousandSmallLinesAreExactToTheCent) {
+TEST_F(MaterialSums, AThousandSmallLinesAreExactToTheCent) {
     for (int i = 0; i < 1000; ++i)
         Add("Line", 7, 0.1F, 1.15F, 1);
     SumMaterials();
@@ -78,12 +78,12 @@ TEST_F(TakeoffSums, AThousandSmallLinesAreExactToTheCent) {
     EXPECT_FLOAT_EQ(Prices().TaxMatSalePrice, 1150);  // 1000 * 1.15
 }
 
-TEST_F(TakeoffSums, ASumBeyondTheRangeOverflows) {
+TEST_F(MaterialSums, ASumBeyondTheRangeOverflows) {
     Add("Gold", 32767, 3e38F, 0, 1);
     EXPECT_THROW(SumMaterials(), RuntimeError);
 }
 
-TEST_F(TakeoffSums, TheListBasesFollowTheSalePricesAndTheirTotal) {
+TEST_F(MaterialSums, TheListBasesFollowTheSalePricesAndTheirTotal) {
     Prices().ModelLDPrice = 3000;
     Prices().LaborLDPrice = 400;
     Prices().TaxSalePrice = 250.25F;
@@ -95,7 +95,7 @@ TEST_F(TakeoffSums, TheListBasesFollowTheSalePricesAndTheirTotal) {
     EXPECT_EQ(Prices().TotalLDPrice, 3918.0F);  // 3000 + 170.50 + 97.25 + 400 + 250.25
 }
 
-TEST_F(TakeoffSums, OnlyRowsWithAQuantityAreCommittedInOrderAndWithoutTheirCategory) {
+TEST_F(MaterialSums, OnlyRowsWithAQuantityAreCommittedInOrderAndWithoutTheirCategory) {
     Add("Boot", 0, 9.85F, 60);
     Add("Flex", 2, 41.2F, 110.5F, 1);
     Add("Returned", -3, 5, 6);
@@ -113,7 +113,7 @@ TEST_F(TakeoffSums, OnlyRowsWithAQuantityAreCommittedInOrderAndWithoutTheirCateg
     EXPECT_EQ(rows[2], MaterialRow());
 }
 
-TEST_F(TakeoffSums, Of1001SelectedRowsTheFirst1000AreKeptAndTheLastIsDropped) {
+TEST_F(MaterialSums, Of1001SelectedRowsTheFirst1000AreKeptAndTheLastIsDropped) {
     for (int i = 1; i <= 1001; ++i)
         Add("Line " + std::to_string(i), 1, 1, 2);
     CatalogueToProjectMaterials();
@@ -122,7 +122,7 @@ TEST_F(TakeoffSums, Of1001SelectedRowsTheFirst1000AreKeptAndTheLastIsDropped) {
     EXPECT_EQ(Project().ProjectMaterials.size(), 1001U);
 }
 
-TEST_F(TakeoffSums, AChangedTakeoffChangesTheProjectAndAnEqualOneDoesNot) {
+TEST_F(MaterialSums, AChangedTakeoffChangesTheProjectAndAnEqualOneDoesNot) {
     Add("Flex", 2, 41.2F, 110.5F, 1);
     CommitTakeoff();
     EXPECT_TRUE(State().ProjectChanged);
@@ -133,6 +133,30 @@ TEST_F(TakeoffSums, AChangedTakeoffChangesTheProjectAndAnEqualOneDoesNot) {
     MaterialCatalogue()[0].ListDiscount = 5;
     CommitTakeoff();
     EXPECT_TRUE(State().ProjectChanged);
+}
+
+TEST_F(MaterialSums, ASaveWhileTheTakeoffIsOpenKeepsATypedOverrideUntilTheTakeoffChanges) {
+    Add("Flex", 2, 41.2F, 110.5F, 1);
+    EXPECT_TRUE(CommitOpenTakeoff());
+    EXPECT_EQ(Prices().TaxMatDealerOverride, 82.4F);  // 2 * 41.20
+    Prices().TaxMatDealerOverride = 80;
+    EXPECT_FALSE(CommitOpenTakeoff());
+    EXPECT_EQ(Prices().TaxMatDealerOverride, 80.0F);
+    MaterialCatalogue()[0].ItemQty = 3;
+    EXPECT_TRUE(CommitOpenTakeoff());
+    EXPECT_EQ(Project().ProjectMaterials[0].ItemQty, 3);
+    EXPECT_FLOAT_EQ(Prices().TaxMatDealerOverride, 123.6F);  // 3 * 41.20
+}
+
+TEST_F(MaterialSums, AccessoriesAreSummedByThemselves) {
+    Add("Humidifier", 1, 200, 350, 1, 1);
+    Add("Thermostat", 2, 80, 250, 0, 1);
+    Add("Not chosen", 0, 80, 99, 0, 1);
+    const TakeoffSums sums = SumTakeoff(MaterialCatalogue());
+    EXPECT_EQ(sums.accessories.cost, 360);  // 200 + 2 * 80
+    EXPECT_EQ(sums.accessories.sale, 600);  // 350 + 250
+    EXPECT_EQ(sums.taxable.sale, 0);
+    EXPECT_EQ(sums.nonTaxable.sale, 0);
 }
 
 }  // namespace

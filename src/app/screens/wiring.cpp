@@ -12,6 +12,7 @@
 #include "equipment/screens/frm_wh_info.h"
 #include "materials/material_catalogue.h"
 #include "materials/screens/frm_edit_materials.h"
+#include "materials/screens/frm_mat_costs.h"
 #include "platform/database/database_hooks.h"
 #include "platform/qt/dialogs.h"
 #include "pricing/screens/frm_sum_model_data.h"
@@ -36,6 +37,7 @@ void EnterScreens() {
     RegisterScreen("frmMisModelData", Make<frmMisModelData>);
     RegisterScreen("frmWHInfo", Make<frmWHInfo>);
     RegisterScreen("frmEditMaterials", Make<frmEditMaterials>);
+    RegisterScreen("frmMatCosts", Make<frmMatCosts>);
     RegisterScreen("frmAbout", MakeAboutForm);
     RegisterScreen("frmTip", Make<frmTip>);
     RegisterScreen("frmStatus", Make<frmStatus>);

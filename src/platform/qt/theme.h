@@ -22,6 +22,7 @@ struct ThemeColors {
     QColor selection;                // the current row of a grid
     QColor fresh;                    // figures that the last edit changed
     QColor negative;                 // money and margins below zero
+    QColor accessory;                // lines that don't count into the price
     QColor cooling, heating, water;  // the three sides of a system, everywhere
     bool dark = false;
 };
