@@ -84,8 +84,8 @@ std::vector<HelpFind> SearchHelp(const std::vector<HelpPage>& pages, std::string
     return headings;
 }
 
-std::string HelpPageOfScreen(std::string_view screen) {
-    static constexpr std::pair<std::string_view, const char*> table[] = {
+const std::vector<std::pair<std::string, std::string>>& HelpPagesByScreen() {
+    static const std::vector<std::pair<std::string, std::string>> table = {
         {"frmGPD", "general-project-data.md"},
         {"frmHelpInfo", "general-project-data.md"},
         {"frmModelSelection", "model-selection.md"},
@@ -93,21 +93,20 @@ std::string HelpPageOfScreen(std::string_view screen) {
         {"frmSumRptData", "price-table.md"},
         {"frmDetailModelData", "model-selection.md"},
         {"frmMisModelData", "model-selection.md"},
+        {"frmWHInfo", "hot-water.md"},
         {"frmPreview", "reports.md"},
         {"frmPrint", "reports.md"},
-        {"frmReportOptions", "reports.md"},
-        {"frmBanner", "reports.md"},
         {"frmTempFile", "files.md"},
         {"frmMatCosts", "materials.md"},
         {"frmEditMaterials", "materials.md"},
         {"frmMatList", "materials.md"},
         {"frmLaborCosts", "labor.md"},
-        {"frmLaborList", "labor.md"},
-        {"frmFootnotes", "footnotes.md"},
-        {"frmWHInfo", "hot-water.md"},
-        {"frmOptions", "options.md"},
-        {"frmExplorer", "explorer.md"}};
-    for (const auto& [name, page] : table)
+        {"frmLaborList", "labor.md"}};
+    return table;
+}
+
+std::string HelpPageOfScreen(std::string_view screen) {
+    for (const auto& [name, page] : HelpPagesByScreen())
         if (name == screen) return page;
     return indexPage;
 }

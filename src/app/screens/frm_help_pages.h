@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tendo {
@@ -27,6 +28,8 @@ struct HelpFind {
 /// first. No words: nothing.
 std::vector<HelpFind> SearchHelp(const std::vector<HelpPage>& pages, std::string_view words);
 
+/// Screens and the pages that tell about them.
+const std::vector<std::pair<std::string, std::string>>& HelpPagesByScreen();
 /// The page that tells about a screen; the index for any other.
 std::string HelpPageOfScreen(std::string_view screen);
 

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
+
+#include "app/command_table.h"
 
 namespace tendo {
 namespace {
@@ -41,13 +44,54 @@ TEST(HelpSearch, NoWordsFindNothing) {
     EXPECT_TRUE(SearchHelp(Guide(), "zyzzyva").empty());
 }
 
-TEST(HelpPageOfScreen, LeadsToAPageOfTheGuideOrToItsIndex) {
+TEST(HelpPageOfScreen, LeadsToItsPageAndAnyOtherToTheIndex) {
     EXPECT_EQ(HelpPageOfScreen("frmGPD"), "general-project-data.md");
     EXPECT_EQ(HelpPageOfScreen("frmSumModelData"), "price-table.md");
+    EXPECT_EQ(HelpPageOfScreen("frmWHInfo"), "hot-water.md");
     EXPECT_EQ(HelpPageOfScreen(""), "index.md");
-    for (const char* screen : {"frmGPD", "frmSumModelData", "frmModelSelection", "frmPreview"})
-        EXPECT_TRUE(std::filesystem::exists(std::string(TENDO_SOURCE_DIR) + "/docs/guide/" +
-                                            HelpPageOfScreen(screen)));
+    EXPECT_EQ(HelpPageOfScreen("frmTip"), "index.md");
+}
+
+TEST(HelpPageOfScreen, EachPageThatIsNamedIsWritten) {
+    const std::set<std::string> toCome = {"materials.md", "labor.md"};
+    const std::string folder = std::string(TENDO_SOURCE_DIR) + "/docs/guide/";
+    std::set<std::string> pages = {"index.md", "first-job.md"};  // of the Help menu's commands
+    for (const auto& [screen, page] : HelpPagesByScreen())
+        if (!toCome.contains(page)) pages.insert(page);
+    for (const std::string& page : pages)
+        EXPECT_TRUE(std::filesystem::exists(folder + page)) << page;
+}
+
+TEST(HelpPages, EachLinkAndPictureOfAPageIsThere) {
+    const std::string folder = std::string(TENDO_SOURCE_DIR) + "/docs/guide/";
+    int links = 0;
+    for (const HelpPage& page : Guide()) {
+        for (std::size_t at = page.text.find("]("); at != std::string::npos;
+             at = page.text.find("](", at + 2)) {
+            const std::string target =
+                page.text.substr(at + 2, page.text.find_first_of(")#", at + 2) - at - 2);
+            if (target.empty() || target.find(':') != std::string::npos) continue;
+            ++links;
+            EXPECT_TRUE(std::filesystem::exists(folder + target)) << page.file << ": " << target;
+        }
+    }
+    EXPECT_GT(links, 10);
+}
+
+TEST(HelpPages, ThePageOfKeysNamesEachShortcutOfTheMenus) {
+    std::string keys;
+    for (const HelpPage& page : Guide())
+        if (page.file == "keys.md") keys = page.text;
+    for (const Command& command : Commands())
+        EXPECT_NE(keys.find(command.shortcut), std::string::npos) << command.tool;
+}
+
+TEST(HelpPages, EachPageIsLinkedToByTheIndex) {
+    const std::vector<HelpPage> pages = Guide();
+    for (const HelpPage& page : pages)
+        if (page.file != "index.md") {
+            EXPECT_NE(pages[0].text.find("(" + page.file + ")"), std::string::npos) << page.file;
+        }
 }
 
 }  // namespace
