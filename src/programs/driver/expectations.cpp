@@ -37,6 +37,18 @@ Finding OfRecord(Session&, const Words& words) {
     return {words[3], RecordValue(words[2])};
 }
 
+/// The first field of a record that isn't as expected; the last one when all are.
+Finding OfFields(Session&, const Words& words) {
+    if (words.size() < 5 || words.size() % 2 == 0)
+        throw CommandFault("expect fields RECORD NAME VALUE [NAME VALUE ...]");
+    Finding finding;
+    for (std::size_t at = 3; at < words.size(); at += 2) {
+        finding = {words[at + 1], RecordValue(words[2] + "." + words[at])};
+        if (!Agrees(finding.expected, finding.got)) break;
+    }
+    return finding;
+}
+
 Finding OfState(Session&, const Words& words) {
     MustHave(words, 4, "expect state NAME VALUE");
     return {words[3], StateValue(words[2])};
@@ -195,7 +207,7 @@ const std::map<std::string, Expectation> expectations = {
     {"dialog", OfDialog},     {"no-dialog", OfNoDialog}, {"cell", OfCell},
     {"head", OfHead},         {"focus", OfFocus},        {"call", OfCall},
     {"fails", OfFails},       {"surface", OfSurface},    {"no-surface", OfNoSurface},
-    {"document", OfDocument}, {"shell", OfShell},
+    {"document", OfDocument}, {"shell", OfShell},        {"fields", OfFields},
 };
 
 Finding Find(Session& session, const Words& words) {
