@@ -59,6 +59,9 @@ TextField::TextField(const FieldSpec& spec, QWidget* parent) : QLineEdit(parent)
 }
 
 void TextField::Prepare() {
+    setProperty("fresh", false);
+    freshTimer_.setParent(this);
+    freshTimer_.setObjectName(objectName() + "_Fresh");
     freshTimer_.setSingleShot(true);
     freshTimer_.setInterval(2000);
     connect(&freshTimer_, &QTimer::timeout, this, [this] { SetStyleFlag(this, "fresh", false); });
@@ -116,6 +119,11 @@ void TextField::Ask(QKeyEvent* event) {
     const auto signal = why ? &TextField::WhyWanted : &TextField::HelpWanted;
     event->setAccepted(isSignalConnected(QMetaMethod::fromSignal(signal)));
     Q_EMIT(this->*signal)();
+}
+
+void TextField::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (!isReadOnly()) return QLineEdit::mouseDoubleClickEvent(event);
+    Q_EMIT WhyWanted();
 }
 
 void TextField::focusInEvent(QFocusEvent* event) {

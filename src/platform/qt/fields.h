@@ -53,7 +53,8 @@ class TextField : public QLineEdit {
 
     /// Text set by the program: no key filter; keeps the caret when nothing changed.
     void ShowText(const QString& text);
-    /// Marks the figure as changed by the last edit, for two seconds.
+    /// Marks the figure as changed by the last edit, for two seconds; the timer that ends it is called
+    /// NAME_Fresh.
     void MarkFresh();
 
     EntryKind Kind() const { return kind_; }
@@ -66,13 +67,14 @@ class TextField : public QLineEdit {
     void Committed();
     /// F1 was pressed, or the field's help mark.
     void HelpWanted();
-    /// Shift+F1 was pressed: where does the figure come from?
+    /// Shift+F1 was pressed, or a computed figure double-clicked: where does it come from?
     void WhyWanted();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
   private:
     void Prepare();

@@ -46,6 +46,8 @@ TextField* MakePriceField(TableField field, QWidget* parent) {
                                          .unit = style.unit,
                                          .accessibleName = title.c_str()},
                                parent);
+    if (style.kind == EntryKind::Figure)
+        line->setToolTip("Why this price? Double-click, or Shift+F1");
     line->KeyFilter = [field](QChar key, const QString& rest) {
         return KeyAllowed(field, key.unicode(), rest.toStdString());
     };
