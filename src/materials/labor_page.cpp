@@ -1,7 +1,9 @@
 #include "materials/labor_page.h"
 
+#include <optional>
 #include <utility>
 
+#include "platform/text/arithmetic.h"
 #include "platform/text/number_text.h"
 #include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
@@ -39,6 +41,12 @@ PercentageRelations RelationsOf(LaborField field) {
 
 bool IsPercentage(LaborField field) {
     return field == LaborField::GrossMargin || field == LaborField::PriceMarkup;
+}
+
+/// A number, or a simple expression of numbers; 0 for anything else.
+float HoursOfText(const std::string& text) {
+    const std::optional<double> computed = EvaluateArithmetic(text);
+    return computed ? StoreSingle(*computed) : ValueOfText(text);
 }
 
 float TimesRate(float hours, float rate) {
@@ -160,7 +168,7 @@ void LaborPage::RunCommit(int line, LaborField field) {
 }
 
 void LaborPage::CommitHours(int line) {
-    Show(line, LaborField::QtyHrs, Value(line, LaborField::QtyHrs), PercentPicture);
+    Show(line, LaborField::QtyHrs, HoursOfText(Text(line, LaborField::QtyHrs)), PercentPicture);
     if (HasNoRate(line)) {
         Show(line, LaborField::LaborPerHour, Project().GPDProjectFormat.LaborRate,
              defaultRatePicture);

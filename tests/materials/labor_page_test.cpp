@@ -81,6 +81,15 @@ TEST_F(LaborPageTest, HoursShowOneDecimalAndTheCostIsOfWhatShows) {
     EXPECT_EQ(page.Text(0, Field::LaborCost), "$92.00");
 }
 
+TEST_F(LaborPageTest, HoursTakeSimpleArithmetic) {
+    Enter(0, Field::QtyHrs, "2*3+1.5");
+    EXPECT_EQ(page.Text(0, Field::QtyHrs), "7.5");
+    EXPECT_EQ(page.Text(0, Field::LaborCost), "$300.00");
+    Enter(0, Field::QtyHrs, "2/0");
+    EXPECT_EQ(messages.size(), 1U);
+    EXPECT_EQ(page.Text(0, Field::LaborCost), "$300.00");
+}
+
 TEST_F(LaborPageTest, ATextThatDoesNotConvertCountsAsZero) {
     Enter(0, Field::QtyHrs, "abc");
     Enter(0, Field::LaborPerHour, "-");

@@ -12,6 +12,8 @@
 #include "equipment/screens/frm_wh_info.h"
 #include "materials/material_catalogue.h"
 #include "materials/screens/frm_edit_materials.h"
+#include "materials/screens/frm_labor_costs.h"
+#include "materials/screens/frm_list_add_delete.h"
 #include "materials/screens/frm_mat_costs.h"
 #include "platform/database/database_hooks.h"
 #include "platform/qt/dialogs.h"
@@ -38,6 +40,7 @@ void EnterScreens() {
     RegisterScreen("frmWHInfo", Make<frmWHInfo>);
     RegisterScreen("frmEditMaterials", Make<frmEditMaterials>);
     RegisterScreen("frmMatCosts", Make<frmMatCosts>);
+    RegisterScreen("frmLaborCosts", Make<frmLaborCosts>);
     RegisterScreen("frmAbout", MakeAboutForm);
     RegisterScreen("frmTip", Make<frmTip>);
     RegisterScreen("frmStatus", Make<frmStatus>);
@@ -62,6 +65,7 @@ void WireRooms() {
     CatalogueHooks().Message = [](const std::string& text) { ShowMessage("TENDO", text); };
     CatalogueHooks().EnableTool = [](const std::string& tool) { MainBar().SetEnabled(tool, true); };
     RegisterProcedure("mnuFilePreview_Click", ShowPreview);
+    RegisterProcedure("mnuProjectLaborLists_Click", [] { ShowListAddDelete(ListKind::Labor); });
     HooksOfDatabases().JetThreeKept = [](const std::string& file, const std::string& keptAs) {
         ShowMessage("TENDO",
                     file + " was written in a newer form of database.  Its original was kept as " +

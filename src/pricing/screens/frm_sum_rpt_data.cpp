@@ -260,10 +260,10 @@ void RefillPriceScreens() {
 }
 
 /// The view comes last: it shows the records, and the total follows on the working screen.
-void RecalculateSystemScreens() {
+void RecalculateSystemScreens(bool rowsChanged) {
     if (auto* screen = qobject_cast<frmSumModelData*>(Form::Find("frmSumModelData")))
         screen->TakeTotals();
-    else
+    else if (rowsChanged)
         RecalcClosedPriceTable(Project());
     if (auto* view = qobject_cast<frmSumRptData*>(Form::Find("frmSumRptData")))
         view->SetSystemTendos();

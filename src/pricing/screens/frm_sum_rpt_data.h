@@ -52,7 +52,9 @@ class frmSumRptData : public Form {
 void RefillPriceScreens();
 
 /// What closing the material and the labor takeoff does at its end: the price screens take the rows
-/// that were set in the records, and the totals follow, also when no price screen is open.
-void RecalculateSystemScreens();
+/// that were set in the records, and the totals follow, also when no price screen is open. Rows
+/// that didn't change leave the totals of a closed price table alone: a total that was typed
+/// stands.
+void RecalculateSystemScreens(bool rowsChanged = true);
 
 }  // namespace tendo

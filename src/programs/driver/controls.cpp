@@ -179,6 +179,7 @@ QAbstractItemModel* ModelOf(QWidget* control) {
 
 Json PropertyOf(QWidget* control, const std::string& property) {
     QAbstractItemModel* model = ModelOf(control);
+    // The text of a tick box or an option is its state.
     if (auto* button = qobject_cast<QAbstractButton*>(control); button && property == "caption")
         return S(OwnCaption(button));
     if (property.empty() || property == "text" || property == "caption")

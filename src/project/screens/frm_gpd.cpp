@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 #include <QTabWidget>
 
 #include "platform/qt/dialogs.h"
@@ -64,7 +65,7 @@ void frmGPD::ShowRecords() {
     txtLaborRate_->setText(QString::fromStdString(FormatNumber(project.LaborRate, "$##0.00")));
     if (project.DefaultDB.Trimmed().empty()) project.DefaultDB = StandardDefaultDB();
     txtDefDB_->setText(QString::fromStdString(project.DefaultDB.Trimmed()));
-    (project.TaxLabor ? OptTaxYes_ : OptTaxNo_)->setChecked(true);
+    ShowLaborTax();
     (project.SingleProposalType ? OptSingleProp_ : OptMultipleProp_)->setChecked(true);
     const bool import = project.ImportGPD == 1;
     chkImportData_->setChecked(import);
@@ -192,7 +193,17 @@ void frmGPD::btnProposalType_Click() {
         (info.option == 1 ? OptSingleProp_ : OptMultipleProp_)->setChecked(true);
 }
 
+void frmGPD::ShowLaborTax() {
+    const QScopedValueRollback<bool> loading(loading_, true);
+    (Project().GPDProjectFormat.TaxLabor ? OptTaxYes_ : OptTaxNo_)->setChecked(true);
+}
+
 void frmGPD::btnTaxLabor_Click() {
+    bool tax = OptTaxYes_->isChecked();
+    if (AskAboutLaborTax(tax)) (tax ? OptTaxYes_ : OptTaxNo_)->setChecked(true);
+}
+
+bool AskAboutLaborTax(bool& tax) {
     HelpInfo info{
         .title = "Tax Labor Help",
         .text =
@@ -201,8 +212,10 @@ void frmGPD::btnTaxLabor_Click() {
             "permit proposals to have a mix of taxable and tax exempt labor items.  This means "
             "that all labor items are either taxable or tax exempt.",
         .options = {"Yes, tax labor.", "No, do not tax labor."},
-        .option = OptTaxYes_->isChecked() ? 1 : 2};
-    if (ShowHelpInfo(info)) (info.option == 1 ? OptTaxYes_ : OptTaxNo_)->setChecked(true);
+        .option = tax ? 1 : 2};
+    if (!ShowHelpInfo(info)) return false;
+    tax = info.option == 1;
+    return true;
 }
 
 }  // namespace tendo

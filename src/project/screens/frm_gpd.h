@@ -24,6 +24,9 @@ class frmGPD : public Form {
   public:
     frmGPD();
 
+    /// Shows the project's labor tax, after another screen set it.
+    void ShowLaborTax();
+
   protected:
     bool QueryUnload() override;
 
@@ -87,6 +90,9 @@ class frmGPD : public Form {
     QTimer* tmrGPD_;
     bool loading_ = true;
 };
+
+/// The help on taxing labor, with the choice; true when the user agreed to `tax`.
+bool AskAboutLaborTax(bool& tax);
 
 /// The file that an import is to read, chosen on this screen; empty when none was.
 std::string& ImportFileName();

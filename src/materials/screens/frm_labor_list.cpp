@@ -1,0 +1,97 @@
+#include "materials/screens/frm_labor_list.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "materials/labor_lists.h"
+#include "materials/screens/list_screens.h"
+#include "platform/qt/dialogs.h"
+#include "platform/qt/enhanced_input.h"
+#include "platform/qt/fields.h"
+#include "platform/text/text.h"
+#include "project/program_state.h"
+
+namespace tendo {
+namespace {
+
+constexpr int longestName = 255;
+constexpr int nameWidth = 30;  // characters
+
+}  // namespace
+
+frmLaborList::frmLaborList(const std::string& name)
+    : LaborScreen("frmLaborList", "Labor List for All Systems", LaborListEdit()) {
+    AddName(name);
+    QPushButton* copy = AddButton("btnCopyProjectLabor", "Copy the &project's labor",
+                                  [this] { btnCopyProjectLabor_Click(); });
+    copy->setEnabled(State().ProjectIsOpen);
+    AddButton("btnSaveList", "&Save list", [this] {
+        btnSaveList_Click();
+    })->setProperty("primary", true);
+    Page().ShowListRows();
+    OrderTabs();
+}
+
+void frmLaborList::AddName(const std::string& name) {
+    const FieldSpec spec{
+        .name = "txtListName", .label = "List &name", .width = nameWidth, .maxLength = longestName};
+    txtListName_ = new TextField(spec, this);
+    txtListName_->ShowText(QString::fromStdString(name));
+    auto validator = std::make_shared<InputValidator>();
+    validator->MaxTextLength = longestName;
+    auto* input = new EnhancedInput(txtListName_, validator);
+    input->ReturnControl = input->DownControl = focusProxy();
+    connect(txtListName_, &QLineEdit::textEdited, this, [this] { Edited(); });
+    TopRow()->insertWidget(0, MakeLabel(spec.label, txtListName_, this));
+    TopRow()->insertWidget(1, txtListName_);
+}
+
+void frmLaborList::ReadList(const std::string& name) {
+    LoadLaborListForEdit(name);
+}
+
+bool frmLaborList::Save() {
+    const std::string name(Trimmed(txtListName_->text().toStdString()));
+    if (name.empty()) {
+        ShowMessage("TENDO", "Please specify a List name.");
+        return false;
+    }
+    if (!ListsMayBeWritten(ListKind::Labor)) return false;
+    Page().StoreRows();
+    if (!SaveLaborList(name)) return false;
+    changed_ = false;
+    Q_EMIT NewsOfLists().Changed(ListKind::Labor);
+    return true;
+}
+
+void frmLaborList::btnSaveList_Click() {
+    Save();
+}
+
+void frmLaborList::btnCopyProjectLabor_Click() {
+    TransferLaborRecords();
+    Page().ShowRows();
+    Edited();
+}
+
+bool frmLaborList::QueryUnload() {
+    if (!changed_ ||
+        Ask("TENDO", "Do you want to save this Labor List?", Buttons::YesNo) == Answer::No)
+        return true;
+    return Save();
+}
+
+void frmLaborList::FormUnload() {
+    Q_EMIT NewsOfLists().EditorClosed(ListKind::Labor);
+}
+
+Form* MakeLaborListEditor(const std::string& name, bool isNew) {
+    if (isNew)
+        ClearLaborListEdit();
+    else
+        LoadLaborListForEdit(name);
+    return new frmLaborList(name);
+}
+
+}  // namespace tendo

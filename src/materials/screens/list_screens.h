@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QObject>
+
+namespace tendo {
+
+enum class ListKind { Material, Labor };
+
+/// What the screens of lists tell each other.
+class ListNews : public QObject {
+    Q_OBJECT
+  Q_SIGNALS:
+    /// A list was saved or deleted.
+    void Changed(tendo::ListKind kind);
+    /// The editor of a list was closed.
+    void EditorClosed(tendo::ListKind kind);
+};
+ListNews& NewsOfLists();
+
+/// False, after a message, when the lists of a kind can't be written at present: the price book
+/// they stand in is being edited, and its screen would write over them.
+bool ListsMayBeWritten(ListKind kind);
+
+}  // namespace tendo
