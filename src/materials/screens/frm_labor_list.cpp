@@ -57,7 +57,6 @@ bool frmLaborList::Save() {
         ShowMessage("TENDO", "Please specify a List name.");
         return false;
     }
-    if (!ListsMayBeWritten(ListKind::Labor)) return false;
     Page().StoreRows();
     if (!SaveLaborList(name)) return false;
     changed_ = false;

@@ -149,19 +149,18 @@ void frmListAddDelete::EditorClosed(ListKind kind) {
 }
 
 void frmListAddDelete::btnAdd_Click() {
-    if (!ListsMayBeWritten(kind_)) return;
     const ListKindTexts& texts = TextsOf(kind_);
     const auto name = Dialogs().Input({texts.newTitle, texts.newPrompt, ""});
     if (name && !Trimmed(*name).empty()) OpenEditor(std::string(Trimmed(*name)), true);
 }
 
 void frmListAddDelete::btnEdit_Click() {
-    if (!ChosenList().empty() && ListsMayBeWritten(kind_)) OpenEditor(ChosenList(), false);
+    if (!ChosenList().empty()) OpenEditor(ChosenList(), false);
 }
 
 void frmListAddDelete::btnDelete_Click() {
     const std::string name = ChosenList();
-    if (name.empty() || !ListsMayBeWritten(kind_)) return;
+    if (name.empty()) return;
     if (kind_ == ListKind::Material)
         DeleteMaterialList(name);
     else

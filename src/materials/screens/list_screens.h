@@ -17,8 +17,4 @@ class ListNews : public QObject {
 };
 ListNews& NewsOfLists();
 
-/// False, after a message, when the lists of a kind can't be written at present: the price book
-/// they stand in is being edited, and its screen would write over them.
-bool ListsMayBeWritten(ListKind kind);
-
 }  // namespace tendo
