@@ -9,6 +9,7 @@
 #include "materials/catalogue_merge.h"
 #include "materials/material_catalogue.h"
 #include "materials/material_lists.h"
+#include "materials/screens/frm_edit_materials.h"
 #include "materials/screens/takeoff_page.h"
 #include "materials/takeoff_sums.h"
 #include "platform/files/paths.h"
@@ -79,6 +80,7 @@ frmMatCosts::frmMatCosts() : Form("frmMatCosts", caption, Place::Child, "frmMatC
     frame->setContentsMargins(0, 0, 0, 0);
     frame->addWidget(scroll);
     setMinimumSize(560, 320);
+    setWindowTitle(Q(page_->Rows().Title()));
     connect(page_, &TakeoffPage::TitleChanged, this, &QWidget::setWindowTitle);
     connect(page_, &TakeoffPage::Cleared, this, [this] {
         chosenList_ = noList;
@@ -214,10 +216,9 @@ void frmMatCosts::btnChangeDB_Click() {
 
 void frmMatCosts::OpenNeighbour(const QString& screen) {
     StoreFields();
+    if (screen == "frmEditMaterials")
+        return ShowEditMaterials("Return to Material Costs", RefillMaterialTakeoff);
     if (PricingScreens().ShowScreen) PricingScreens().ShowScreen(screen);
-    if (screen != "frmEditMaterials") return;
-    if (Form* editor = Form::Find(screen))
-        connect(editor, &QObject::destroyed, this, &frmMatCosts::TakeUpPriceBook);
 }
 
 void frmMatCosts::StoreFields() {
