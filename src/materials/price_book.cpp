@@ -138,7 +138,7 @@ bool PriceBook::BindAgain(const std::string& path) {
 bool PriceBook::ReadAgainIfChanged() {
     if (!file_ || writing_ || HasUnwrittenChanges() || !file_->ChangedElsewhere()) return false;
     if (!BindAgain(DatabaseName())) return false;
-    Note("The price book was changed by another program and has been read again.");
+    Note("The price book was changed elsewhere and has been read again.");
     return true;
 }
 

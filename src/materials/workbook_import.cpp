@@ -8,6 +8,7 @@
 #include "platform/office/local_number.h"
 #include "platform/text/date_text.h"
 #include "platform/text/number_text.h"
+#include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
 
 namespace tendo {
@@ -74,6 +75,22 @@ std::string ListOf(const std::vector<UnconvertedCell>& cells, std::size_t most) 
 }
 
 }  // namespace
+
+void CheckPriceBook(Database& database) {
+    std::string missing;
+    for (const char* table : {"Materials", "Categories"})
+        if (!database.HasTable(table) && missing.empty())
+            missing = std::string("it has no table ") + table;
+    if (missing.empty()) {
+        const Recordset rows = database.OpenRecordset("Materials");
+        for (const ImportColumn& column : importColumns)
+            if (!rows.HasField(column.field) && missing.empty())
+                missing = std::string("its materials have no column ") + column.field;
+    }
+    if (!missing.empty())
+        throw RuntimeError(error_number::ItemNotFound,
+                           "\"" + database.Name() + "\" is no price book: " + missing + ".");
+}
 
 bool WorkbookImport::RowIsEmpty(std::size_t row) const {
     for (std::size_t column = 0; column < importColumns.size(); ++column)

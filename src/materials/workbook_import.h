@@ -19,6 +19,10 @@ struct UnconvertedCell {
     std::string text;     // "unit cost \"call\" is no number: $0.00"
 };
 
+/// RuntimeError 3265, told in a sentence, when a database isn't one that materials can be imported
+/// into.
+void CheckPriceBook(Database& database);
+
 /// The import of a price book from the first sheet of a workbook: row 1 is a heading; from row 2
 /// on, until a row whose first four cells are empty, each row is a material with part number,
 /// description, unit cost and list cost. The workbook must outlive it.

@@ -23,11 +23,12 @@ def expect(what, holds):
 def wrong_words():
     for words in ((), ('nonsense',), ('info',), ('info', 'a', 'b'), ('info', 'a', '--what'), ('report', JOB),
                   ('report', JOB, '-o'), ('report', JOB, '-o', 'x.txt'), ('report', JOB, '-o', 'x.pdf', '--reports', 'none'),
-                  ('database', JOB, '--table')):
+                  ('database', JOB, '--table'), ('prices', 'a.csv'), ('prices', 'a.csv', '--into'),
+                  ('prices', 'a.csv', 'b.csv', '--into', 'c.mdb')):
         code, _, err = run(*words)
         expect(f'{words}: exit {code}, not 2', code == 2)
         expect(f'{words}: nothing said', err.strip() != '')
-    for verb in ('info', 'report', 'database', 'check'):
+    for verb in ('info', 'report', 'prices', 'database', 'check'):
         code, out, _ = run(verb, '--help')
         expect(f'{verb} --help', code == 0 and f'usage: tendo-cli {verb}' in out)
 
@@ -71,6 +72,38 @@ def report():
     expect('a picture of the title page', code == 0 and open(png, 'rb').read(4) == b'\x89PNG')
 
 
+def prices():
+    book, sheet = os.path.join(WORK, 'book.mdb'), os.path.join(WORK, 'prices.csv')
+    shutil.copy(os.path.join(SHARE, 'blank.mdb'), book)
+    with open(sheet, 'w') as file:
+        file.write('Part,Description,Unit,List\nW-1,"Whip, 6 ft",$17.25,23\nW-2,Boot,call,5.5\n')
+
+    def materials():
+        _, out, _ = run('database', book, '--table', 'Materials')
+        return [json.loads(line) for line in out.splitlines()]
+
+    code, out, err = run('prices', sheet, '--into', book)
+    expect(f'prices: {err}', code == 0 and '2 rows imported' in out)
+    expect('the cost that is no number is told', 'Row 3: unit cost "call" is no number: $0.00' in out)
+    rows = materials()
+    expect(f'the imported rows: {rows}', [(r['Part Number'], r['Description'], r['UnitCst'], r['ListCst']) for r in rows] ==
+           [('W-1', 'Whip, 6 ft', 17.25, 23), ('W-2', 'Boot', 0, 5.5)])
+    run('prices', sheet, '--into', book)
+    expect('rows are added', len(materials()) == 4)
+    code, _, _ = run('prices', sheet, '--into', book, '--replace')
+    expect('rows are replaced', code == 0 and len(materials()) == 2)
+    before = open(book, 'rb').read()
+    for source, target in ((os.path.join(WORK, 'none.xls'), book), (JOB, book), (sheet, os.path.join(WORK, 'none.mdb'))):
+        code, _, err = run('prices', source, '--into', target, '--replace')
+        expect(f'prices {source} into {target}: {err}', code == 1 and len(err.splitlines()) == 1)
+    expect('a failed import changed the price book', open(book, 'rb').read() == before)
+    job = os.path.join(WORK, 'job.tdw')
+    shutil.copy(JOB, job)
+    code, _, err = run('prices', sheet, '--into', job)
+    expect(f'a project is no price book: {err}', code == 1 and 'is no price book' in err and
+           open(job, 'rb').read() == open(JOB, 'rb').read())
+
+
 def check():
     for file in (JOB, os.path.join(SHARE, 'Common', 'Frostelm.mdb'), os.path.join(SHARE, 'tendo.mdb'),
                  os.path.join(SHARE, 'blank.mdb'), os.path.join(SHARE, 'Proposals.mdb')):
@@ -82,7 +115,7 @@ PROGRAM, SHARE, WORK = sys.argv[1:]
 JOB = os.path.join(SHARE, 'Projects', 'Maple Street 12.tdw')
 shutil.rmtree(WORK, ignore_errors=True)
 os.makedirs(WORK)
-for part in (wrong_words, info, database, report, check):
+for part in (wrong_words, info, database, report, prices, check):
     part()
 for fault in FAULTS:
     print(fault)

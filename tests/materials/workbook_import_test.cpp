@@ -2,6 +2,7 @@
 
 #include "materials/material_catalogue.h"
 #include "platform/office/read_workbook.h"
+#include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
 #include "price_book_fixture.h"
 
@@ -185,6 +186,27 @@ TEST_F(WorkbookImportTest, ASheetWithoutRowsImportsNothing) {
     EXPECT_EQ(preview, "In the price book now: 1 material\nTo be imported: 0 rows");
     EXPECT_EQ(OnDisk("Materials", "Description"), "Old");
     EXPECT_TRUE(Import(Workbook(), false));
+}
+
+TEST_F(WorkbookImportTest, ADatabaseThatIsNoPriceBookIsRefused) {
+    const auto refusal = [](Database& database) -> std::string {
+        try {
+            CheckPriceBook(database);
+        } catch (const RuntimeError& error) {
+            return error.Description();
+        }
+        return "";
+    };
+    Database database = Database::OpenDatabase(File());
+    EXPECT_EQ(refusal(database), "");
+    jet::TableDefinition materials = database.Table("Materials");
+    materials.columns.erase(materials.columns.begin() + 1);
+    database.DeleteTable("Materials");
+    database.AppendTable(materials);
+    EXPECT_TRUE(
+        EndsWith(refusal(database), "is no price book: its materials have no column UnitCst."));
+    database.DeleteTable("Categories");
+    EXPECT_TRUE(EndsWith(refusal(database), "is no price book: it has no table Categories."));
 }
 
 TEST_F(WorkbookImportTest, ATextOfCommasIsReadByItsContentAndSaysSo) {

@@ -6,6 +6,7 @@
 
 class QLabel;
 class QProgressBar;
+class QPushButton;
 
 namespace tendo {
 
@@ -16,12 +17,24 @@ class frmStatus : public Form {
   public:
     frmStatus();
 
+    /// Lets the user stop the conversion; without this it can't be stopped.
+    void OfferCancel();
     /// What is being done, and how far of the whole; both are shown at once. A whole of 0: unknown.
-    void ShowProgress(const std::string& what, int done, int whole);
+    /// False when the user has asked to stop.
+    bool ShowProgress(const std::string& what, int done, int whole);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool QueryUnload() override;
 
   private:
+    void btnCancel_Click();
+
     QLabel* lblStatus_;
     QProgressBar* ProgressBar_;
+    QPushButton* btnCancel_;
+    bool cancelled_ = false;
+    bool showing_ = false;
 };
 
 }  // namespace tendo

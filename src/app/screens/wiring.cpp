@@ -15,6 +15,7 @@
 #include "materials/screens/frm_labor_costs.h"
 #include "materials/screens/frm_list_add_delete.h"
 #include "materials/screens/frm_mat_costs.h"
+#include "materials/screens/import_materials.h"
 #include "platform/database/database_hooks.h"
 #include "platform/qt/dialogs.h"
 #include "pricing/screens/frm_sum_model_data.h"
@@ -47,6 +48,23 @@ void EnterScreens() {
     RegisterHelp();
 }
 
+bool ShowConversion(const std::string& text, int done, int whole) {
+    const bool first = !Form::Find("frmStatus");
+    auto* status = static_cast<frmStatus*>(LoadScreen("frmStatus"));
+    if (first) {
+        status->OfferCancel();
+        status->ShowForm();
+    }
+    return status->ShowProgress(text, done, whole);
+}
+
+void WireMaterials() {
+    StatusOfConversion() = {ShowConversion, [] {
+                                if (Form* status = Form::Find("frmStatus")) status->Unload();
+                            }};
+    RegisterProcedure("mnuConvertMaterialsFromExcelToAccess_Click", ImportMaterialsFromExcel);
+}
+
 void WirePricing() {
     PricingScreens().ScreenExists = ScreenExists;
     PricingScreens().ShowScreen = ShowScreen;
@@ -72,6 +90,7 @@ void WireRooms() {
                         keptAs + ".",
                     MessageIcon::Information);
     };
+    WireMaterials();
     WirePricing();
     EnterScreens();
 }

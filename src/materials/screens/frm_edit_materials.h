@@ -25,6 +25,8 @@ class frmEditMaterials : public Form {
     frmEditMaterials();
 
     QSize sizeHint() const override;
+    /// Shows what someone else has put into the price book.
+    void ReadAgainIfChanged();
     /// What the close button reads, and what runs when the screen has closed.
     void ReturnTo(const QString& closeCaption, std::function<void()> closed);
 
@@ -52,7 +54,6 @@ class frmEditMaterials : public Form {
     void ShowTexts();
     void ShowDiskState();
     void RunCommand(const std::function<void()>& run);
-    void ReadAgainIfChanged();
     void WriteSoon();
     void WriteNow();
     bool HandleGridKey(int key, Qt::KeyboardModifiers modifiers);

@@ -49,6 +49,7 @@ struct Verb {
 
 void RunInfo(const Arguments& arguments);
 void RunReport(const Arguments& arguments);
+void RunPrices(const Arguments& arguments);
 void RunDatabase(const Arguments& arguments);
 void RunCheck(const Arguments& arguments);
 

@@ -22,6 +22,13 @@ const Verb verbs[] = {
      "--reports picks reports: title, sales. Options and company come from the program directory.",
      {1, {}, {"-o", "--reports", "--home"}},
      RunReport},
+    {"prices",
+     "tendo-cli prices BOOK.xls|.xlsx|.csv --into DB.mdb [--replace]",
+     "Imports the materials of a workbook's first sheet into a price book: part number, "
+     "description, unit\n"
+     "cost and list cost from row 2 on. They are added; --replace takes out those that are there.",
+     {1, {"--replace"}, {"--into"}},
+     RunPrices},
     {"database",
      "tendo-cli database FILE [--schema | --table NAME]",
      "Shows what a data file holds, as JSON: the tables and their row counts, their definitions, "
