@@ -5,6 +5,8 @@
 #include <QPlainTextEdit>
 #include <QTextEdit>
 
+#include "platform/qt/pasted_text.h"
+
 namespace tendo {
 namespace {
 
@@ -37,6 +39,15 @@ void DeleteSelection(Edit* field) {
     field->textCursor().removeSelectedText();
 }
 
+void Paste(QWidget* field) {
+    PasteAsTyped(field);
+}
+
+/// Rich text comes in with its looks.
+void Paste(QTextEdit* field) {
+    field->paste();
+}
+
 }  // namespace
 
 void mnuEditUndo_Click() {
@@ -52,7 +63,7 @@ void mnuEditCopy_Click() {
 }
 
 void mnuEditPaste_Click() {
-    WithEditableField([](auto* field) { field->paste(); });
+    WithEditableField([](auto* field) { Paste(field); });
 }
 
 void mnuEditDelete_Click() {

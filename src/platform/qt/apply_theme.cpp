@@ -12,6 +12,7 @@
 #include "platform/qt/alt_letters.h"
 #include "platform/qt/desktop_colors.h"
 #include "platform/qt/enhanced_input.h"
+#include "platform/qt/pasted_text.h"
 #include "platform/qt/style.h"
 #include "platform/qt/theme.h"
 
@@ -134,9 +135,9 @@ QString SheetOf(const ThemeColors& colors) {
                                 .arg(color.blue())
                                 .arg(color.alpha()));
     }
-    const int text = QFontMetrics(BodyFont()).height() + 3;
-    sheet.replace("@bodyInField", QString("%1px").arg(std::max(text, 20)));
-    sheet.replace("@bodyInButton", QString("%1px").arg(std::max(text, 16)));
+    const int text = QFontMetrics(BodyFont()).height();
+    sheet.replace("@bodyInField", QString("%1px").arg(std::max(text + 3, 20)));
+    sheet.replace("@bodyInButton", QString("%1px").arg(std::max(text + 1, 16)));
     // Around a question mark of the small size; the border comes on top.
     const int ring = QFontMetrics(HeadingFont()).height() + 3;
     sheet.replace("@halfRing", QString("%1px").arg(ring / 2 + 1));
@@ -185,6 +186,7 @@ void ApplyTheme(QApplication& application, bool dark) {
     InitResources();
     GuardFieldsFromWheel();
     WatchAltKey();
+    WatchPasting();
     SetThemeColors(dark ? DarkColors() : LightColors());
     application.setStyleSheet({});
     application.setStyle(new TendoStyle);

@@ -196,30 +196,51 @@ bool EnhancedInput::KeyWasHandled(const QKeyEvent& event) {
     return FilterTyped(typed);
 }
 
+EntryText EnhancedInput::Entry() const {
+    const QString text = Text();
+    qsizetype from = 0;
+    qsizetype to = 0;
+    if (const QLineEdit* line = Line()) {
+        from = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
+        to = from + line->selectedText().length();
+    } else if (const QPlainTextEdit* memo = Memo()) {
+        from = memo->textCursor().selectionStart();
+        to = memo->textCursor().selectionEnd();
+    }
+    return {text.left(from).toStdU32String(), text.mid(to).toStdU32String()};
+}
+
+std::optional<char32_t> EnhancedInput::Filter(const EntryText& entry, char32_t key) const {
+    return FilterKey(
+        *InputValidator, entry, key,
+        InputValidator->AllowOnlyComboFormListItems ? ListItems() : std::vector<std::string>());
+}
+
 bool EnhancedInput::FilterTyped(const QString& typed) {
     QLineEdit* line = Line();
     QPlainTextEdit* memo = Memo();
     if (!InputValidator || (!line && !memo)) return false;
     if (line ? line->isReadOnly() : memo->isReadOnly()) return false;
-    const QString text = Text();
-    qsizetype from = 0;
-    qsizetype to = 0;
-    if (line) {
-        from = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
-        to = from + line->selectedText().length();
-    } else {
-        from = memo->textCursor().selectionStart();
-        to = memo->textCursor().selectionEnd();
-    }
     const char32_t key = typed.toUcs4().value(0);
-    const auto kept = FilterKey(
-        *InputValidator, {text.left(from).toStdU32String(), text.mid(to).toStdU32String()}, key,
-        InputValidator->AllowOnlyComboFormListItems ? ListItems() : std::vector<std::string>());
+    const auto kept = Filter(Entry(), key);
     if (!kept) return true;
     if (*kept == key) return false;
     const QString turned = QString::fromUcs4(&*kept, 1);
     line ? line->insert(turned) : memo->insertPlainText(turned);
     return true;
+}
+
+QString EnhancedInput::Accepted(const QString& text) const {
+    if (!InputValidator || !IsATextThing()) return text;
+    EntryText entry = Entry();
+    std::u32string accepted;
+    for (const char32_t key : text.toStdU32String()) {
+        const auto kept = Filter(entry, key);
+        if (!kept) continue;
+        accepted += *kept;
+        entry.left += *kept;
+    }
+    return QString::fromStdU32String(accepted);
 }
 
 bool EnhancedInput::LeavesField(MoveKey key) const {

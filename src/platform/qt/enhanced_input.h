@@ -58,6 +58,10 @@ class EnhancedInput : public QObject {
     /// combo box.
     void SetAdjustFontForBigNumbers(bool adjusts);
 
+    /// What of the text would enter the field at its caret, in place of its selection, if it were
+    /// typed there.
+    QString Accepted(const QString& text) const;
+
     /// Opens the help list below the field; false when the field has none.
     bool OpenHelpList();
 
@@ -86,6 +90,8 @@ class EnhancedInput : public QObject {
     QPlainTextEdit* Memo() const;
     QString Text() const;
     CaretState Caret() const;
+    EntryText Entry() const;
+    std::optional<char32_t> Filter(const EntryText& entry, char32_t key) const;
     std::vector<std::string> ListItems() const;
 
     void WatchText();

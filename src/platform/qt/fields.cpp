@@ -105,12 +105,23 @@ void TextField::keyPressEvent(QKeyEvent* event) {
     const QString typed = event->text();
     const bool printable = !typed.isEmpty() && typed.at(0).isPrint() &&
                            !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-    if (printable && KeyFilter && !isReadOnly()) {
-        QString rest = text();
-        if (hasSelectedText()) rest.remove(selectionStart(), selectionLength());
-        if (!KeyFilter(typed.at(0), rest)) return;
-    }
+    if (printable && KeyFilter && !isReadOnly() && !KeyFilter(typed.at(0), Rest())) return;
     QLineEdit::keyPressEvent(event);
+}
+
+QString TextField::Rest() const {
+    QString rest = text();
+    if (hasSelectedText()) rest.remove(selectionStart(), selectionLength());
+    return rest;
+}
+
+QString TextField::Accepted(const QString& text) const {
+    if (!KeyFilter) return text;
+    QString accepted;
+    const QString rest = Rest();
+    for (const QChar key : text)
+        if (KeyFilter(key, rest + accepted)) accepted += key;
+    return accepted;
 }
 
 /// Without an answer of its own the key goes on to the screen's page of the guide.

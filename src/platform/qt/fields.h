@@ -43,6 +43,8 @@ class TextField : public QLineEdit {
 
     /// True when the key may enter; `rest` is the text without the selection. Empty: every key may.
     std::function<bool(QChar key, const QString& rest)> KeyFilter;
+    /// What of the text the key filter would let in, if it were typed in place of the selection.
+    QString Accepted(const QString& text) const;
     /// A focus that lands here passes on to this field.
     void PassFocusTo(QWidget* next) { setFocusProxyTarget(next); }
 
@@ -79,6 +81,7 @@ class TextField : public QLineEdit {
   private:
     void Prepare();
     void ShowSigns();
+    QString Rest() const;  // the text without the selection
     void Ask(QKeyEvent* event);
     void setFocusProxyTarget(QWidget* next) { passTo_ = next; }
 

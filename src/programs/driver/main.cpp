@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFont>
 #include <QTemporaryFile>
 #include <fstream>
 #include <iostream>
@@ -36,6 +37,15 @@ class DesktopFile {
     QTemporaryFile file_;
 };
 
+/// TENDO_FONT_POINTS stands for the size of the desktop's font.
+void TakeFontSize() {
+    const int points = qEnvironmentVariableIntValue("TENDO_FONT_POINTS");
+    if (points <= 0) return;
+    QFont font = QApplication::font();
+    font.setPointSize(points);
+    QApplication::setFont(font);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -45,6 +55,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + desktop.Name());
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    TakeFontSize();
     tendo::ApplyTheme(application);
 
     QCommandLineParser parser;
