@@ -10,6 +10,7 @@
 #include "equipment/screens/frm_detail_model_data.h"
 #include "equipment/screens/frm_model_selection.h"
 #include "equipment/screens/frm_wh_info.h"
+#include "footnotes/screens/frm_footnotes.h"
 #include "materials/material_catalogue.h"
 #include "materials/screens/frm_edit_materials.h"
 #include "materials/screens/frm_labor_costs.h"
@@ -42,6 +43,7 @@ void EnterScreens() {
     RegisterScreen("frmEditMaterials", Make<frmEditMaterials>);
     RegisterScreen("frmMatCosts", Make<frmMatCosts>);
     RegisterScreen("frmLaborCosts", Make<frmLaborCosts>);
+    RegisterScreen("frmFootnotes", Make<frmFootnotes>);
     RegisterScreen("frmAbout", MakeAboutForm);
     RegisterScreen("frmTip", Make<frmTip>);
     RegisterScreen("frmStatus", Make<frmStatus>);

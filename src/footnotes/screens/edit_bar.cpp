@@ -39,6 +39,13 @@ bool IsClipboardKey(const QKeySequence& keys) {
     return keys == QKeySequence::Cut || keys == QKeySequence::Copy || keys == QKeySequence::Paste;
 }
 
+QHBoxLayout* AddLine(QVBoxLayout* lines) {
+    auto* line = new QHBoxLayout;
+    line->setSpacing(2);
+    lines->addLayout(line);
+    return line;
+}
+
 template <Qt::AlignmentFlag alignment>
 void Align(EditBar&, RichEditor& editor, bool) {
     editor.setAlignment(alignment);
@@ -51,17 +58,8 @@ bool IsAligned(const RichEditor& editor) {
 
 }  // namespace
 
-/// In their order; a null name parts groups.
-const EditTool editTools[] = {
-    {"ToolImportTextFile", "import-text", "Import a text file", "",
-     [](EditBar& bar, RichEditor&, bool) { bar.ImportTextFile(); }},
-    {},
-    {"ToolCut", "cut", "Cut", "Ctrl+X", [](EditBar&, RichEditor& editor, bool) { editor.cut(); }},
-    {"ToolCopy", "copy", "Copy", "Ctrl+C",
-     [](EditBar&, RichEditor& editor, bool) { editor.copy(); }},
-    {"ToolPaste", "paste", "Paste", "Ctrl+V",
-     [](EditBar&, RichEditor& editor, bool) { editor.paste(); }},
-    {},
+/// In their order, in two lines; a null name parts groups.
+const EditTool formatTools[] = {
     {"ToolBold", "bold", "Bold", "Ctrl+B",
      [](EditBar&, RichEditor& editor, bool on) { editor.SetBold(on); },
      [](const RichEditor& editor) { return editor.fontWeight() >= QFont::DemiBold; }},
@@ -87,6 +85,16 @@ const EditTool editTools[] = {
      [](EditBar&, RichEditor& editor, bool) { editor.Indent(-1); }},
     {"ToolIndentRight", "indent-in", "Indent more", "Ctrl+M",
      [](EditBar&, RichEditor& editor, bool) { editor.Indent(1); }},
+};
+const EditTool textTools[] = {
+    {"ToolImportTextFile", "import-text", "Import a text file", "",
+     [](EditBar& bar, RichEditor&, bool) { bar.ImportTextFile(); }},
+    {},
+    {"ToolCut", "cut", "Cut", "Ctrl+X", [](EditBar&, RichEditor& editor, bool) { editor.cut(); }},
+    {"ToolCopy", "copy", "Copy", "Ctrl+C",
+     [](EditBar&, RichEditor& editor, bool) { editor.copy(); }},
+    {"ToolPaste", "paste", "Paste", "Ctrl+V",
+     [](EditBar&, RichEditor& editor, bool) { editor.paste(); }},
     {},
     {"ToolEnterPageBreak", "page-break", "Insert a page break <PAGE>", "Ctrl+Return",
      [](EditBar& bar, RichEditor&, bool) { bar.Insert(PageBreakToken); }},
@@ -98,12 +106,16 @@ const EditTool editTools[] = {
 
 EditBar::EditBar(RichEditor* editor, QWidget* parent) : QWidget(parent), editor_(editor) {
     setObjectName("EditBand");
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(2);
-    AddTools(row);
-    AddFonts(row);
-    row->addStretch(1);
+    auto* lines = new QVBoxLayout(this);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(2);
+    QHBoxLayout* formats = AddLine(lines);
+    AddFonts(formats);
+    AddTools(formats, formatTools);
+    formats->addStretch(1);
+    QHBoxLayout* texts = AddLine(lines);
+    AddTools(texts, textTools);
+    texts->addStretch(1);
     timer_.setObjectName(TimerName);
     timer_.setParent(parent);
     timer_.setInterval(300);
@@ -134,24 +146,23 @@ QToolButton* EditBar::MakeTool(const EditTool& tool) {
     return button;
 }
 
-void EditBar::AddTools(QHBoxLayout* row) {
-    for (const EditTool& tool : editTools) {
+void EditBar::AddTools(QHBoxLayout* line, std::span<const EditTool> tools) {
+    for (const EditTool& tool : tools) {
         if (tool.name)
-            row->addWidget(MakeTool(tool));
+            line->addWidget(MakeTool(tool));
         else
-            row->addSpacing(10);
+            line->addSpacing(10);
     }
-    row->addSpacing(10);
 }
 
-void EditBar::AddFonts(QHBoxLayout* row) {
+void EditBar::AddFonts(QHBoxLayout* line) {
     fonts_ = new QComboBox(this);
     fonts_->setObjectName("ToolFonts");
     fonts_->setAccessibleName("Font");
     fonts_->addItems(firstFonts);
     for (const QString& family : QFontDatabase::families())
         if (!firstFonts.contains(family)) fonts_->addItem(family);
-    fonts_->setMaximumWidth(fontMetrics().horizontalAdvance("Times New Roman") + 60);
+    fonts_->setFixedWidth(fontMetrics().horizontalAdvance("Times New Roman") + 60);
     sizes_ = new QComboBox(this);
     sizes_->setObjectName("ToolFontSize");
     sizes_->setAccessibleName("Font size in points");
@@ -159,16 +170,17 @@ void EditBar::AddFonts(QHBoxLayout* row) {
     sizes_->setInsertPolicy(QComboBox::NoInsert);
     for (const int size : fontSizes)
         sizes_->addItem(QString::number(size));
-    sizes_->setMaximumWidth(fontMetrics().horizontalAdvance("0000") + 60);
+    sizes_->setFixedWidth(fontMetrics().horizontalAdvance("0000") + 44);
     connect(fonts_, &QComboBox::activated, this, &EditBar::SetFont);
     connect(sizes_, &QComboBox::textActivated, this, &EditBar::SetFontSize);
     connect(sizes_->lineEdit(), &QLineEdit::editingFinished, this, &EditBar::SetFontSize);
-    row->addWidget(fonts_);
-    row->addWidget(sizes_);
+    line->addWidget(fonts_);
+    line->addWidget(sizes_);
+    line->addSpacing(10);
 }
 
 void EditBar::ShowState() {
-    for (const EditTool& tool : editTools)
+    for (const EditTool& tool : formatTools)
         if (tool.isOn) findChild<QToolButton*>(tool.name)->setChecked(tool.isOn(*editor_));
     const RichRun run = RunFormatOf(editor_->currentCharFormat());
     fonts_->setCurrentIndex(fonts_->findText(QString::fromStdString(run.font.family)));
@@ -222,7 +234,7 @@ void EditBar::ImportTextFile() {
     try {
         const Hourglass pointer;
         editor_->ShowText(ReadFootnoteFile(file));
-        editor_->document()->setModified(true);
+        editor_->SetEdited(true);
     } catch (const RuntimeError& error) {
         ShowMessage("Import Text File", error.Description(), MessageIcon::Warning);
     }

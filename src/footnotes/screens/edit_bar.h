@@ -2,6 +2,7 @@
 
 #include <QTimer>
 #include <QWidget>
+#include <span>
 #include <string_view>
 
 class QComboBox;
@@ -29,9 +30,9 @@ class EditBar : public QWidget {
     void Insert(std::string_view token);
 
   private:
-    void AddTools(QHBoxLayout* row);
+    void AddTools(QHBoxLayout* line, std::span<const EditTool> tools);
     QToolButton* MakeTool(const EditTool& tool);
-    void AddFonts(QHBoxLayout* row);
+    void AddFonts(QHBoxLayout* line);
     void ShowState();
 
     void SetFont();

@@ -50,6 +50,7 @@ frmFootnotes::frmFootnotes() : Form("frmFootnotes", "Footnotes", Place::Child, "
     RefreshLibrary();
     RefreshSelected();
     ShowNothing();
+    library_->setFocus();
     setMinimumSize(760, 480);
 }
 
@@ -139,7 +140,7 @@ void frmFootnotes::StoreText() {
             State().ProjectChanged = true;
         }
     });
-    if (stored) editor_->document()->setModified(false);
+    if (stored) editor_->SetEdited(false);
 }
 
 void frmFootnotes::ShowNothing() {

@@ -51,6 +51,7 @@ RichEditor::RichEditor(QWidget* parent) : QTextEdit(parent) {
     setProperty("paper", true);
     setTabChangesFocus(false);
     document()->setIndentWidth(IndentPixels);
+    connect(this, &QTextEdit::textChanged, this, [this] { edited_ = true; });
     ShowText({});
 }
 
@@ -60,7 +61,7 @@ void RichEditor::ShowText(const std::string& text) {
     ShowRichText(*document(), IsRichText(text) ? rich : LinesAsParagraphs(rich));
     if (document()->isEmpty()) setCurrentCharFormat(CharFormatOf(Base()));
     document()->clearUndoRedoStacks();
-    document()->setModified(false);
+    edited_ = false;
     moveCursor(QTextCursor::Start);
 }
 

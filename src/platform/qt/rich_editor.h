@@ -16,7 +16,9 @@ class RichEditor : public QTextEdit {
     void ShowText(const std::string& text);
     /// The text as it was shown when it wasn't edited since, else in Rich Text Format.
     std::string Text() const;
-    bool IsEdited() const { return document()->isModified(); }
+    bool IsEdited() const { return edited_; }
+    /// What stands in the editor counts as stored, or as not.
+    void SetEdited(bool edited) { edited_ = edited; }
 
     // What the tools do to the selection, or to what is typed next.
     void SetBold(bool on);
@@ -39,6 +41,7 @@ class RichEditor : public QTextEdit {
     void Merge(const QTextCharFormat& format);
 
     std::string shown_;
+    bool edited_ = false;
 };
 
 }  // namespace tendo
