@@ -162,7 +162,8 @@ void EditBar::AddFonts(QHBoxLayout* line) {
     fonts_->addItems(firstFonts);
     for (const QString& family : QFontDatabase::families())
         if (!firstFonts.contains(family)) fonts_->addItem(family);
-    fonts_->setFixedWidth(fontMetrics().horizontalAdvance("Times New Roman") + 60);
+    fonts_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    fonts_->setMinimumContentsLength(14);
     sizes_ = new QComboBox(this);
     sizes_->setObjectName("ToolFontSize");
     sizes_->setAccessibleName("Font size in points");
@@ -170,7 +171,8 @@ void EditBar::AddFonts(QHBoxLayout* line) {
     sizes_->setInsertPolicy(QComboBox::NoInsert);
     for (const int size : fontSizes)
         sizes_->addItem(QString::number(size));
-    sizes_->setFixedWidth(fontMetrics().horizontalAdvance("0000") + 44);
+    sizes_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    sizes_->setMinimumContentsLength(4);
     connect(fonts_, &QComboBox::activated, this, &EditBar::SetFont);
     connect(sizes_, &QComboBox::textActivated, this, &EditBar::SetFontSize);
     connect(sizes_->lineEdit(), &QLineEdit::editingFinished, this, &EditBar::SetFontSize);

@@ -38,7 +38,7 @@ frmFootnoteNew::frmFootnoteNew(FootnoteMode mode)
     auto* grid = new QGridLayout;
     name_ = AddFieldRow(grid, 0, NameField, this);
     column->addLayout(grid);
-    editor_ = new RichEditor(this);
+    editor_ = new RichEditor;
     editor_->setObjectName("rtxtFootnoteText");
     editor_->setAccessibleName("Text of the new footnote");
     column->addWidget(MakeLabel("&Text", editor_, this));

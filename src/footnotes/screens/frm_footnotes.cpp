@@ -64,6 +64,8 @@ void frmFootnotes::AddLibrary(QVBoxLayout* column) {
         MakeFootnoteButton("btnRename", "&Rename…", this, [this] { btnRename_Click(); }));
     buttons->addWidget(
         MakeFootnoteButton("btnDelete", "&Delete", this, [this] { btnDelete_Click(); }));
+    Control("btnRename")->setAccessibleName("Rename the library's footnote");
+    Control("btnDelete")->setAccessibleName("Delete from the library");
     buttons->addStretch(1);
     column->addLayout(buttons);
     QPushButton* add = MakeFootnoteButton("btnAddToList", "&Add to this proposal", this,
@@ -89,6 +91,8 @@ void frmFootnotes::AddSelected(QVBoxLayout* column) {
                                           [this] { btnSelectedRename_Click(); }));
     buttons->addWidget(MakeFootnoteButton("btnSelectedDelete", "Remo&ve", this,
                                           [this] { btnSelectedDelete_Click(); }));
+    Control("btnSelectedRename")->setAccessibleName("Rename the proposal's footnote");
+    Control("btnSelectedDelete")->setAccessibleName("Remove from the proposal");
     buttons->addStretch(1);
     column->addLayout(buttons);
     connect(selected_, &QListWidget::itemClicked, this, [this] { lstSelectedFootnotes_Click(); });
@@ -97,14 +101,14 @@ void frmFootnotes::AddSelected(QVBoxLayout* column) {
 }
 
 void frmFootnotes::AddEditor(QVBoxLayout* column) {
-    editor_ = new RichEditor(this);
+    editor_ = new RichEditor;
     editor_->setObjectName("rtxtFootnoteText");
     editor_->setAccessibleName("Text of the footnote");
     shown_ = MakeLabel("", editor_, this);
     shown_->setObjectName("lblFootnoteText");
     column->addWidget(shown_);
     column->addWidget(new EditBar(editor_, this));
-    column->addWidget(editor_, 1);
+    column->addWidget(editor_, 1);  // behind the bar in the order of Tab
 }
 
 void frmFootnotes::RefreshLibrary() {
