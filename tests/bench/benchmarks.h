@@ -12,6 +12,11 @@ bool PriceCommit();
 /// `share`: the folder of the built sample data.
 bool ReportPdf(const std::string& folder, const std::string& share);
 
+/// A takeoff of 1,000 lines in a price book of 30,000 materials: its merge, and the book's load.
+bool TakeoffMerge(const std::string& folder);
+/// The same takeoff on its page: turning it, and its four views. Needs the QApplication.
+bool TakeoffPages(const std::string& folder);
+
 /// The model selection on a database of 40,000 air conditioners. Needs the QApplication.
 bool ModelSelectionScreen(const std::string& folder);
 

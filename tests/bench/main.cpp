@@ -26,6 +26,8 @@ int main(int argc, char** argv) {
         {"read", false, [&] { return ModelDatabaseRead(folder); }},
         {"save", false, [&] { return ProjectSave(folder); }},
         {"price", false, PriceCommit},
+        {"takeoff", false, [&] { return TakeoffMerge(folder); }},
+        {"pages", true, [&] { return TakeoffPages(folder); }},
         {"pdf", true, [&] { return ReportPdf(folder, share); }},
         {"selection", true, [&] { return ModelSelectionScreen(folder); }}};
     std::unique_ptr<QApplication> application;

@@ -97,7 +97,7 @@ const std::vector<std::pair<std::string, std::string>>& HelpPagesByScreen() {
         {"frmPreview", "reports.md"},
         {"frmPrint", "reports.md"},
         {"frmTempFile", "files.md"},
-        {"frmMatCosts", "materials.md"},
+        {"frmMatCosts", "takeoff.md"},
         {"frmEditMaterials", "materials.md"},
         {"frmMatList", "materials.md"},
         {"frmLaborCosts", "labor.md"},

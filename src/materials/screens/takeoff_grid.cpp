@@ -213,8 +213,12 @@ int TakeoffGrid::RowOf(const QObject* widget) const {
 }
 
 void TakeoffGrid::ShowPage() {
-    for (int row = 0; row < Rows; ++row)
+    for (int row = 0; row < Rows; ++row) {
         ShowLine(row);
+        // What the last edit changed stands elsewhere now, or nowhere.
+        for (TextField* field : Row(row).fields)
+            SetStyleFlag(field, "fresh", false);
+    }
     const QScopedValueRollback filling(filling_, true);
     scrollBar_->setRange(0, takeoff_.ScrollRange());
     scrollBar_->setValue(takeoff_.Top());
