@@ -152,6 +152,12 @@ class DesktopFollower : public QObject {
     explicit DesktopFollower(QApplication& application)
         : QObject(&application), application_(application) {
         application.installEventFilter(this);
+        // Not every desktop tells its change; who changed it comes back from its settings.
+        connect(&application, &QGuiApplication::applicationStateChanged, this,
+                [this](Qt::ApplicationState state) {
+                    if (state == Qt::ApplicationActive)
+                        AskWhetherDark([this](bool dark) { TakeOn(dark); });
+                });
     }
 
     bool eventFilter(QObject* object, QEvent* event) override {
@@ -165,10 +171,18 @@ class DesktopFollower : public QObject {
 
   private:
     void Follow() {
-        ApplyTheme(application_, DesktopIsDark());
+        Apply(DesktopIsDark());
+        waiting_ = false;
+    }
+
+    void TakeOn(bool dark) {
+        if (dark != Theme().dark) Apply(dark);
+    }
+
+    void Apply(bool dark) {
+        ApplyTheme(application_, dark);
         for (QWidget* widget : QApplication::allWidgets())
             widget->update();
-        waiting_ = false;
     }
 
     QApplication& application_;
