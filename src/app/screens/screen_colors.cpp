@@ -53,6 +53,7 @@ class ScreenAsColoredForm : public ColoredForm {
     explicit ScreenAsColoredForm(Form& form) : form_(form) {}
 
     void SetClassColor(ControlClass controls, std::int32_t color) override {
+        if (color < 0) return;  // one of the desktop's own colours, which the screens have anyhow
         const char* what =
             controls == ControlClass::LblHelpCaptionBackground ? "background" : "color";
         for (QWidget* widget : form_.findChildren<QWidget*>())

@@ -7,6 +7,8 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -28,6 +30,16 @@ void Press(QWidget* control, int key, Qt::KeyboardModifiers modifiers = Qt::NoMo
 void Type(QWidget* control, const QString& text) {
     for (const QChar letter : text)
         Press(control, letter.toUpper().unicode(), Qt::NoModifier, letter);
+}
+
+/// A move of the mouse, or the left button pressed or released, in the middle of a control.
+void Mouse(QWidget* control, QEvent::Type type) {
+    const QPointF place = control->rect().center();
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, place, control->mapToGlobal(place), button,
+                      type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(control, &event);
 }
 
 void Turn(QWidget* control) {
@@ -291,6 +303,175 @@ TEST_F(EnhancedInputTest, TheHelpButtonsEventsArePassedOn) {
     input.SetHelpButtonDisabled(true);
     button.click();
     EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(EnhancedInputTest, ChangesAndKeysArePassedOn) {
+    EnhancedInput input(above);
+    int changes = 0;
+    QString pressed;
+    int down = 0;
+    QObject::connect(&input, &EnhancedInput::Change, [&] { ++changes; });
+    QObject::connect(&input, &EnhancedInput::KeyPress, [&](const QString& key) { pressed += key; });
+    QObject::connect(&input, &EnhancedInput::KeyDown, [&](int key) { down = key; });
+    Enter(above);
+    Type(above, "ab");
+    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(pressed, "ab");
+    EXPECT_EQ(down, Qt::Key_B);
+    Press(above, Qt::Key_Home);
+    EXPECT_EQ(down, Qt::Key_Home);
+    EXPECT_EQ(pressed, "ab");  // no character
+    above->setText("from code");
+    EXPECT_EQ(changes, 3);
+}
+
+TEST_F(EnhancedInputTest, TheHelpButtonShowsItsThreePictures) {
+    const auto picture = [](const QColor& color) {
+        QPixmap pixmap(8, 8);
+        pixmap.fill(color);
+        return QIcon(pixmap);
+    };
+    auto* button = Add(new QPushButton, "button");
+    EnhancedInput input(above);
+    input.HelpButtonUpImageControl = picture(Qt::red);
+    input.HelpButtonDownImageControl = picture(Qt::green);
+    input.HelpButtonDisabledImageControl = picture(Qt::blue);
+    const auto shown = [button] {
+        return QColor(button->icon().pixmap(8, 8).toImage().pixel(4, 4));
+    };
+    input.SetHelpButtonControl(button);
+    EXPECT_EQ(shown(), Qt::red);
+    Mouse(button, QEvent::MouseButtonPress);
+    EXPECT_EQ(shown(), Qt::green);
+    Mouse(button, QEvent::MouseButtonRelease);
+    EXPECT_EQ(shown(), Qt::red);
+    input.SetHelpButtonDisabled(true);
+    EXPECT_EQ(shown(), Qt::blue);
+    EXPECT_TRUE(input.HelpButtonDisabled());
+    input.SetHelpButtonDisabled(false);
+    EXPECT_EQ(shown(), Qt::red);
+}
+
+TEST_F(EnhancedInputTest, TheMouseOnTheHelpButtonsOfFieldAndGroupIsPassedOn) {
+    auto* own = Add(new QPushButton, "own");
+    auto* group = Add(new QPushButton, "group");
+    EnhancedInput input(above);
+    input.SetHelpButtonControl(own);
+    input.SetGroupHelpButtonControl(group);
+    EXPECT_EQ(input.HelpButtonControl(), own);
+    EXPECT_EQ(input.GroupHelpButtonControl(), group);
+    QString told;
+    const std::pair<void (EnhancedInput::*)(), const char*> events[] = {
+        {&EnhancedInput::HelpButtonMouseDown, "down "},
+        {&EnhancedInput::HelpButtonMouseMove, "move "},
+        {&EnhancedInput::HelpButtonMouseUp, "up "},
+        {&EnhancedInput::HelpButtonClick, "click "},
+        {&EnhancedInput::GroupHelpButtonMouseDown, "group down "},
+        {&EnhancedInput::GroupHelpButtonMouseMove, "group move "},
+        {&EnhancedInput::GroupHelpButtonMouseUp, "group up "},
+        {&EnhancedInput::GroupHelpButtonClick, "group click "}};
+    for (const auto& [event, word] : events)
+        QObject::connect(&input, event, [&told, word = word] { told += word; });
+    for (QPushButton* button : {own, group}) {
+        told.clear();
+        Mouse(button, QEvent::MouseMove);
+        Mouse(button, QEvent::MouseButtonPress);
+        Mouse(button, QEvent::MouseButtonRelease);
+        EXPECT_EQ(told, button == own ? "move down up click "
+                                      : "group move group down group up group click ");
+    }
+}
+
+TEST_F(EnhancedInputTest, TheListsFormOfTheFieldComesBeforeThatOfItsGroup) {
+    auto* own = new QWidget(window.get());
+    auto* group = new QWidget(window.get());
+    own->hide();
+    group->hide();
+    EnhancedInput input(above);
+    input.GroupComboHelpForm = group;
+    EXPECT_TRUE(input.OpenHelpList());
+    EXPECT_TRUE(group->isVisible());
+    group->hide();
+    input.ComboHelpForm = own;
+    Enter(above);
+    Press(above, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_TRUE(own->isVisible());
+    EXPECT_FALSE(group->isVisible());
+    own->hide();
+}
+
+TEST_F(EnhancedInputTest, OnlyValuesOfTheListMayBeTypedAndTakeItsSpelling) {
+    auto* list = new QListWidget(window.get());
+    list->hide();
+    list->addItems({"Natural Gas", "Natural Gas or Propane", "5 Years"});
+    auto validator = std::make_shared<InputValidator>();
+    validator->AllowOnlyComboFormListItems = true;
+    EnhancedInput input(above, validator);
+    input.ComboFormListBox = list;
+    Enter(above);
+    Type(above, "natxural gas o");
+    EXPECT_EQ(above->text(), "Natural Gas o");
+    // The numeric rule is passed over too: what counts is the list.
+    validator->NumberField = true;
+    validator->MaxNumberValue = 1;
+    above->selectAll();
+    Type(above, "5 y3");
+    EXPECT_EQ(above->text(), "5 Y");
+}
+
+TEST_F(EnhancedInputTest, AFieldIsScrolledIntoViewOnEntry) {
+    auto* area = Add(new QScrollArea, "area");
+    auto* content = new QWidget;
+    content->setFixedSize(200, 2000);
+    auto* far = new QLineEdit(content);
+    far->move(0, 1900);
+    area->setWidget(content);
+    area->setFixedHeight(100);
+    area->show();
+    EnhancedInput input(far);
+    input.ScrollControl = area;
+    QApplication::processEvents();
+    EXPECT_EQ(area->verticalScrollBar()->value(), 0);
+    Enter(far);
+    EXPECT_GT(area->verticalScrollBar()->value(), 1700);
+}
+
+TEST_F(EnhancedInputTest, ADisabledOrHiddenTargetIsNotEntered) {
+    EnhancedInput input(above);
+    EXPECT_EQ(input.OwnerControl(), above);
+    input.DownControl = below;
+    input.ReturnControl = below;
+    below->setEnabled(false);
+    Enter(above);
+    Press(above, Qt::Key_Down);
+    Press(above, Qt::Key_Return);
+    EXPECT_TRUE(above->hasFocus());
+    below->setEnabled(true);
+    Press(above, Qt::Key_Return);
+    EXPECT_TRUE(below->hasFocus());
+}
+
+TEST_F(EnhancedInputTest, EachDirectionLeadsToItsOwnControl) {
+    EnhancedInput input(above);
+    input.UpControl = array[0];
+    input.DownControl = array[1];
+    input.LeftControl = array[2];
+    input.RightControl = below;
+    const std::pair<int, QWidget*> ways[] = {{Qt::Key_Up, array[0]},
+                                             {Qt::Key_Down, array[1]},
+                                             {Qt::Key_Left, array[2]},
+                                             {Qt::Key_Right, below}};
+    above->setText("Miller");
+    for (const auto& [key, target] : ways) {
+        Enter(above);  // the whole text is selected, so it stands at both of its ends
+        Press(above, key);
+        EXPECT_TRUE(target->hasFocus()) << key;
+    }
+    for (const auto modifier : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
+        Enter(above);
+        Press(above, Qt::Key_Up, modifier);
+        EXPECT_TRUE(above->hasFocus()) << modifier;
+    }
 }
 
 TEST_F(EnhancedInputTest, TheWheelLeavesAFieldAloneThatIsNotInFocus) {
