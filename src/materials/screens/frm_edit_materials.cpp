@@ -67,8 +67,7 @@ frmEditMaterials::frmEditMaterials()
              [](const std::string& prompt, const std::string& title) {
                  return Dialogs().Input({title, prompt, ""});
              },
-             [this](const std::string& text) { note_ = Q(text); }}),
-      heldBefore_(State().MaterialDatabaseHeld) {
+             [this](const std::string& text) { note_ = Q(text); }}) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 16, 16, 16);
     column->setSpacing(12);
@@ -235,7 +234,7 @@ bool frmEditMaterials::QueryUnload() {
 
 void frmEditMaterials::FormUnload() {
     tmrWriteBook_.stop();
-    State().MaterialDatabaseHeld = heldBefore_;
+    State().MaterialDatabaseHeld = Form::Find("frmMatCosts") != nullptr;
     if (closed_) QTimer::singleShot(0, qApp, closed_);
 }
 

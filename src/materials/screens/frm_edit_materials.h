@@ -90,7 +90,6 @@ class frmEditMaterials : public Form {
     QTimer tmrWriteBook_{this};
     QString note_;
     std::function<void()> closed_;
-    bool heldBefore_ = false;  // another screen held the database when this one came up
     bool showing_ = false;
 };
 

@@ -240,7 +240,7 @@ void frmMatCosts::FormUnload() {
         }
         ResetCatalogueSelections();
     }
-    State().MaterialDatabaseHeld = false;
+    State().MaterialDatabaseHeld = Form::Find("frmEditMaterials") != nullptr;
 }
 
 void RefillMaterialTakeoff() {
