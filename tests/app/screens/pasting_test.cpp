@@ -274,16 +274,19 @@ TEST_F(UndoKeys, AMemoKnowsThemToo) {
 }
 
 TEST_F(UndoKeys, TheFieldsMenuOffersBoth) {
-    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5),
-                            line->mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(line, &event);
-    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    ASSERT_NE(menu, nullptr);
-    ActionOf(menu, "Redo")->trigger();
+    const auto choose = [this](const char* command) {
+        const QPoint place(5, 5);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, line->mapToGlobal(place));
+        QApplication::sendEvent(line, &event);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        ActionOf(menu, command)->trigger();
+        menu->close();
+    };
+    choose("Redo");
     EXPECT_EQ(line->text(), "ab");
-    ActionOf(menu, "Undo")->trigger();
+    choose("Undo");
     EXPECT_EQ(line->text(), "");
-    menu->close();
 }
 
 TEST_F(UndoKeys, TheUndoCommandActsOnTheFieldInFocus) {
