@@ -14,8 +14,8 @@
 namespace tendo {
 namespace {
 
-/// Fields that stand in the left half of the card; the others stand right of them.
-constexpr int leftFields = 8;
+/// Fields in each half of the card; the notes stand below both.
+constexpr int halfFields = 8;
 
 }  // namespace
 
@@ -42,8 +42,10 @@ QWidget* frmWHInfo::MakeCard() {
     grid->setVerticalSpacing(6);
     int at = 0;
     for (const ModelField& field : WaterHeaterFields()) {
-        const bool left = at < leftFields;
-        fields_.Add(field, grid, left ? at : at - leftFields, left ? 0 : 2, 1, card);
+        const int row = at % halfFields;
+        const int column = at / halfFields % 2 * 2;
+        const bool notes = field.kind == ModelFieldKind::Memo;
+        fields_.Add(field, grid, notes ? halfFields : row, column, notes ? 3 : 1, card);
         ++at;
     }
     grid->setColumnStretch(1, 1);

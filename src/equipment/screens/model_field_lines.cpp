@@ -19,6 +19,7 @@ constexpr int memoLines = 3;
 constexpr int figureWidth = 8;  // characters that a field shows at least
 constexpr int shortWidth = 9;   // of two texts side by side
 constexpr int textWidth = 20;
+constexpr int longTextWidth = 30;  // of descriptions and file names
 constexpr const char* pricePrompt = "Please Enter the Model Cost:";  // of cost and price alike
 
 struct Style {
@@ -30,8 +31,9 @@ struct Style {
 
 /// The width of a text that stands alone in its row or shares it.
 int TextWidth(const ModelField& field) {
-    const bool brief = field.choices.size() == 2 || field.beside;
-    return brief ? shortWidth : textWidth;
+    constexpr int brief = 35;  // characters that such a text has at most
+    if (field.choices.size() == 2 || field.beside) return shortWidth;
+    return field.width == brief ? textWidth : longTextWidth;
 }
 
 Style StyleOf(const ModelField& field) {
