@@ -2,6 +2,7 @@
 
 #include "platform/text/number_text.h"
 #include "platform/text/runtime_error.h"
+#include "pricing/model_price_reason.h"
 #include "pricing/relations.h"
 
 namespace tendo {
@@ -31,6 +32,10 @@ float& ModelPriceLine::Price(FieldKind column) {
            (PricesOf(side_).*columns[Index(column)]);
 }
 
+float ModelPriceLine::Price(ModelPriceColumn column) const {
+    return records_.ModelInfo.at(static_cast<std::size_t>(system_)).*column;
+}
+
 float ModelPriceLine::Cost() {
     return EffectiveCost(Price(FieldKind::DealerCost), Price(FieldKind::DealerOverride));
 }
@@ -51,6 +56,7 @@ void ModelPriceLine::SetText(FieldKind column, const std::string& text) {
 void ModelPriceLine::Show(int system) {
     system_ = system;
     exact_.fill(0);
+    trace_ = {};
     ShowPrices();
     // Told from the prices, for the percentages of a file may be stale.
     const std::array<float, 3> percentages = ShownPercentages();
@@ -71,10 +77,8 @@ void ModelPriceLine::ShowPrices() {
 /// Margin, markup and discount as they follow from cost, list price and sale price.
 std::array<float, 3> ModelPriceLine::Percentages() {
     const float sale = Price(FieldKind::SalePrice);
-    const float list =
-        records_.ModelInfo.at(static_cast<std::size_t>(system_)).*PricesOf(side_).listPrice;
     return {GrossMarginFromSale(Cost(), sale), MarkupFromSale(Cost(), sale),
-            ListDiscountFromSale(list, sale)};
+            ListDiscountFromSale(Price(PricesOf(side_).listPrice), sale)};
 }
 
 /// The same, all 0 when one lies beyond the range of a float.
@@ -100,16 +104,41 @@ bool ModelPriceLine::Commit(FieldKind column) {
     return true;
 }
 
+PriceTrace ModelPriceLine::TraceOf(FieldKind edited) {
+    const float exact = exact_[Index(edited)];
+    switch (edited) {
+        case FieldKind::GrossMargin:
+            return {PriceOrigin::FromMargin, Cost(), exact};
+        case FieldKind::PriceMarkup:
+            return {PriceOrigin::FromMarkup, Cost(), exact};
+        case FieldKind::ListDiscount:
+            return {PriceOrigin::FromDiscount, Price(PricesOf(side_).listPrice), exact};
+        case FieldKind::SalePrice:
+            return {.origin = PriceOrigin::Entered};
+        default:
+            return trace_;  // a cost leaves the price
+    }
+}
+
+PriceReason ModelPriceLine::Why(FieldKind column) const {
+    const ModelPriceColumns& prices = PricesOf(side_);
+    return WhyModelPrice({.model = PricedModelOf(records_, side_, system_),
+                          .dealerOverride = Price(prices.dealerOverride),
+                          .listPrice = Price(prices.listPrice),
+                          .texts = texts_,
+                          .trace = trace_},
+                         column);
+}
+
 void ModelPriceLine::Calculate(FieldKind column) {
+    trace_ = TraceOf(column);
     const float exact = exact_[Index(column)];
     const std::string& text = texts_[Index(column)];
     float& sale = Price(FieldKind::SalePrice);
     if (column == FieldKind::GrossMargin) sale = SaleFromModelGrossMargin(Cost(), exact);
     if (column == FieldKind::PriceMarkup) sale = SaleFromMarkup(Cost(), exact);
     if (column == FieldKind::ListDiscount)
-        sale = SaleFromListDiscount(
-            records_.ModelInfo.at(static_cast<std::size_t>(system_)).*PricesOf(side_).listPrice,
-            exact);
+        sale = SaleFromListDiscount(Price(PricesOf(side_).listPrice), exact);
     if (column == FieldKind::SalePrice) sale = ValueOfText(text);
     if (ShowsQuantity(column)) {
         const int quantity = ModelQuantity(records_, side_, system_);

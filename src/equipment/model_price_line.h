@@ -5,6 +5,8 @@
 
 #include "equipment/model_prices.h"
 #include "pricing/price_fields.h"
+#include "pricing/price_reason.h"
+#include "pricing/price_table.h"
 
 namespace tendo {
 
@@ -25,12 +27,16 @@ class ModelPriceLine {
     /// What leaving the field does; nothing when its text is empty or stands as it was filled. True
     /// when a price changed. A result beyond the range of a float changes nothing.
     bool Commit(FieldKind column);
+    /// Where the figure of a column comes from.
+    PriceReason Why(FieldKind column) const;
 
   private:
     static std::size_t Index(FieldKind column) { return static_cast<std::size_t>(column); }
     bool ShowsQuantity(FieldKind column) const;
     float& Price(FieldKind column);
+    float Price(ModelPriceColumn column) const;
     float Cost();
+    PriceTrace TraceOf(FieldKind edited);
     void Write(FieldKind column, std::string text);
     void ShowPrices();
     void Calculate(FieldKind column);
@@ -43,6 +49,7 @@ class ModelPriceLine {
     int system_ = 0;
     std::array<std::string, ColumnCount> texts_, shown_;
     std::array<float, ColumnCount> exact_{};  // of the percentages
+    PriceTrace trace_;
 };
 
 }  // namespace tendo

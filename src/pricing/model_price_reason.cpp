@@ -6,7 +6,6 @@
 #include "platform/text/number_text.h"
 #include "platform/text/runtime_error.h"
 #include "pricing/price_formulas.h"
-#include "pricing/priced_models.h"
 #include "pricing/relations.h"
 
 namespace tendo {
@@ -23,20 +22,25 @@ const std::string& TextOf(const ModelPriceFacts& facts, FieldKind column) {
 }
 
 float CostOf(const ModelPriceFacts& facts) {
-    return EffectiveCost(facts.dealerCost, facts.dealerOverride);
+    return EffectiveCost(facts.model.dealerCost, facts.dealerOverride);
 }
 
 /// "2 × $750.00 = $1,500.00".
 std::string TimesQuantity(const ModelPriceFacts& facts, float price) {
-    return std::to_string(facts.quantity) + " × " + MoneyText(price) + " = " +
-           MoneyText(static_cast<double>(price) * facts.quantity);
+    return std::to_string(facts.model.quantity) + " × " + MoneyText(price) + " = " +
+           MoneyText(static_cast<double>(price) * facts.model.quantity);
 }
 
+Origin CauseOf(FieldKind column) {
+    if (column == FieldKind::PriceMarkup) return Origin::FromMarkup;
+    if (column == FieldKind::ListDiscount) return Origin::FromDiscount;
+    return Origin::FromMargin;
+}
+
+/// The sale price follows from this percentage, and the field still shows it.
 bool IsCause(const ModelPriceFacts& facts, FieldKind column) {
-    const Origin origin = facts.trace.origin;
-    return (column == FieldKind::GrossMargin && origin == Origin::FromMargin) ||
-           (column == FieldKind::PriceMarkup && origin == Origin::FromMarkup) ||
-           (column == FieldKind::ListDiscount && origin == Origin::FromDiscount);
+    return facts.trace.origin == CauseOf(column) &&
+           !IsPercentEdit(ValueOfText(TextOf(facts, column)), facts.trace.percent);
 }
 
 std::string PriceSource(Origin origin) {
@@ -62,8 +66,8 @@ std::vector<PriceReason::Part> PartsOf(const ModelPriceFacts& facts) {
     const auto percentage = [&](FieldKind column, const char* follows) {
         return part(column, IsCause(facts, column) ? "entered" : follows);
     };
-    const bool overridden = !SameAsCost(facts.dealerCost, facts.dealerOverride);
-    return {part(FieldKind::DealerCost, DatabaseSource(facts.database) + ", times the quantity"),
+    const bool overridden = !SameAsCost(facts.model.dealerCost, facts.dealerOverride);
+    return {part(FieldKind::DealerCost, facts.model.database + ", times the quantity"),
             part(FieldKind::DealerOverride,
                  overridden ? "entered, times the quantity" : "the same as the dealer cost"),
             percentage(FieldKind::GrossMargin, "follows from cost and sale price"),
@@ -71,9 +75,9 @@ std::vector<PriceReason::Part> PartsOf(const ModelPriceFacts& facts) {
             percentage(FieldKind::ListDiscount, "follows from list price and sale price"),
             part(FieldKind::SalePrice, PriceSource(facts.trace.origin)),
             {"List price", MoneyText(facts.listPrice),
-             facts.listPrice == 0 ? "none"
-                                  : DatabaseSource(facts.database) +
-                                        ", or told from sale price and discount on opening"}};
+             facts.listPrice == 0
+                 ? "none"
+                 : facts.model.database + ", or told from sale price and discount on opening"}};
 }
 
 WorkedFormula PriceFormula(const PriceTrace& trace) {
@@ -84,7 +88,7 @@ WorkedFormula PriceFormula(const PriceTrace& trace) {
 }
 
 WorkedFormula PercentageFormula(const ModelPriceFacts& facts, FieldKind column) {
-    const float sale = facts.salePrice;
+    const float sale = facts.model.salePrice;
     if (column == FieldKind::PriceMarkup) return MarkupFormula(CostOf(facts), sale);
     if (column == FieldKind::ListDiscount) return ListDiscountFormula(facts.listPrice, sale);
     return GrossMarginFormula(CostOf(facts), sale);
@@ -104,7 +108,7 @@ void TellPrice(PriceReason& reason, const ModelPriceFacts& facts) {
     } else {
         Tell(reason, "", PriceFormula(facts.trace));
     }
-    if (facts.quantity != 1) reason.note = "The price of one unit, whatever the quantity.";
+    if (facts.model.quantity != 1) reason.note = "The price of one unit, whatever the quantity.";
 }
 
 void TellPercentage(PriceReason& reason, const ModelPriceFacts& facts, FieldKind column) {
@@ -119,7 +123,7 @@ void TellColumn(PriceReason& reason, const ModelPriceFacts& facts, FieldKind col
     switch (column) {
         case FieldKind::DealerCost:
             reason.rule = "Quantity × dealer cost of one unit";
-            reason.worked = TimesQuantity(facts, facts.dealerCost);
+            reason.worked = TimesQuantity(facts, facts.model.dealerCost);
             return;
         case FieldKind::DealerOverride:
             reason.rule = "Quantity × override of one unit; the margin is calculated with it";
@@ -136,7 +140,7 @@ void TellColumn(PriceReason& reason, const ModelPriceFacts& facts, FieldKind col
 
 PriceReason WhyModelPrice(const ModelPriceFacts& facts, FieldKind column) {
     PriceReason reason{
-        .title = std::string(Columns[static_cast<std::size_t>(column)]) + " of " + facts.model,
+        .title = std::string(Columns[static_cast<std::size_t>(column)]) + " · " + facts.model.title,
         .figure = TextOf(facts, column),
         .parts = PartsOf(facts)};
     TellColumn(reason, facts, column);

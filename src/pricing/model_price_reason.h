@@ -5,16 +5,15 @@
 
 #include "pricing/price_reason.h"
 #include "pricing/price_table.h"
+#include "pricing/priced_models.h"
 
 namespace tendo {
 
 /// The price line of a single model as it stands: prices of one unit in dollars, and the six texts
 /// shown, DealerCost to SalePrice.
 struct ModelPriceFacts {
-    std::string model;     // "cooling model FA-3614 of system 1"
-    std::string database;  // its name as the model keeps it; may be empty
-    int quantity = 1;
-    float dealerCost = 0, dealerOverride = 0, salePrice = 0, listPrice = 0;
+    PricedModel model;
+    float dealerOverride = 0, listPrice = 0;
     std::array<std::string, 6> texts;
     PriceTrace trace;  // how the sale price came about since the line was filled
 };

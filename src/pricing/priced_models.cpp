@@ -8,35 +8,50 @@ namespace tendo {
 
 namespace {
 
-template <class Model>
-PricedModel Priced(const char* side, const Model& model, float cost, float sale) {
-    std::string title = side;
-    if (!model.ModelNum.IsBlank()) title += " " + model.ModelNum.Trimmed();
-    return {title, DatabaseSource(model.DB.Trimmed()), model.ModelQty, cost, sale};
-}
+constexpr const char* SideTitles[] = {"cooling", "heating", "water heater"};
 
-bool Counts(const std::string& number, const PricedModel& model) {
-    return !number.empty() || model.dealerCost != 0 || model.salePrice != 0;
+/// What the three model records have in common.
+struct Common {
+    std::string number, database;
+    int quantity = 0;
+};
+Common CommonOf(const ProjectRecords& records, ModelSide side, std::size_t slot) {
+    const auto common = [](const auto& model) {
+        return Common{model.ModelNum.Trimmed(), model.DB.Trimmed(), model.ModelQty};
+    };
+    if (side == ModelSide::Cooling) return common(records.CLGModelData.at(slot));
+    if (side == ModelSide::Heating) return common(records.HTGModelData.at(slot));
+    return common(records.WHModelData.at(slot));
 }
 
 }  // namespace
 
-std::string DatabaseSource(const std::string& name) {
-    return name.empty() ? "no database" : "from " + BaseName(name);
+PricedModel PricedModelOf(const ProjectRecords& records, ModelSide side, int system) {
+    const auto slot = static_cast<std::size_t>(system);
+    const Common common = CommonOf(records, side, slot);
+    const ModelInfoRecord& info = records.ModelInfo.at(slot);
+    PricedModel model;
+    model.title =
+        "System " + std::to_string(system + 1) + ", " + SideTitles[static_cast<std::size_t>(side)];
+    if (!common.number.empty()) model.title += " " + common.number;
+    model.database = common.database.empty() ? "no database" : "from " + BaseName(common.database);
+    model.quantity = common.quantity;
+    model.dealerCost = info.*PricesOf(side).dealerCost;
+    model.salePrice = info.*PricesOf(side).salePrice;
+    return model;
 }
 
 std::vector<PricedModel> PricedModels(const ProjectRecords& records) {
     std::vector<PricedModel> models;
-    for (std::size_t i = 0; i < records.ModelInfo.size(); ++i) {
-        const ModelInfoRecord& info = records.ModelInfo[i];
-        const auto add = [&](const char* side, const auto& model, float cost, float sale) {
-            PricedModel priced = Priced(side, model, cost, sale);
-            priced.title.insert(0, "System " + std::to_string(i + 1) + ", ");
-            if (Counts(model.ModelNum.Trimmed(), priced)) models.push_back(priced);
-        };
-        add("cooling", records.CLGModelData[i], info.CLGModelDealerCost, info.CLGSalePrice);
-        add("heating", records.HTGModelData[i], info.HTGModelDealerCost, info.HTGSalePrice);
-        add("water heater", records.WHModelData[i], info.WHModelDealerCost, info.WHSalePrice);
+    for (int system = 0; system < SystemCount; ++system) {
+        for (const ModelSide side :
+             {ModelSide::Cooling, ModelSide::Heating, ModelSide::WaterHeater}) {
+            const bool named =
+                !CommonOf(records, side, static_cast<std::size_t>(system)).number.empty();
+            PricedModel model = PricedModelOf(records, side, system);
+            if (named || model.dealerCost != 0 || model.salePrice != 0)
+                models.push_back(std::move(model));
+        }
     }
     return models;
 }

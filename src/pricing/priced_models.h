@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "pricing/model_price_columns.h"
 #include "project/project_records.h"
 
 namespace tendo {
@@ -15,11 +16,11 @@ struct PricedModel {
     float dealerCost = 0, salePrice = 0;  // of one unit, in dollars
 };
 
+/// The model of one side of a system (0 to 4), whether there is one or not.
+PricedModel PricedModelOf(const ProjectRecords& records, ModelSide side, int system);
+
 /// All models of the five systems that have a number or a price, system by system: cooling,
 /// heating, water heater.
 std::vector<PricedModel> PricedModels(const ProjectRecords& records);
-
-/// "from Frostelm.mdb" for a model's database name, "no database" for none.
-std::string DatabaseSource(const std::string& name);
 
 }  // namespace tendo

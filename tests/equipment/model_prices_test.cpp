@@ -96,6 +96,29 @@ TEST_F(ModelPrices, TextInANumericFieldCountsAsZero) {
     EXPECT_EQ(records.ModelInfo[0].CLGModelDealerCost, 0);
 }
 
+TEST_F(ModelPrices, ThePriceTellsWhereItComesFrom) {
+    EXPECT_EQ(line.Why(FieldKind::SalePrice).title, "Sale price · System 1, cooling FA-1");
+    EXPECT_EQ(line.Why(FieldKind::SalePrice).rule,
+              "Saved with the project, or the list price of the chosen model");
+    EXPECT_EQ(line.Why(FieldKind::ListDiscount).worked,
+              "($1,200.00 − $1,000.00) ÷ $1,200.00 × 100 = 16.7");
+    Enter(FieldKind::GrossMargin, "40");
+    EXPECT_EQ(line.Why(FieldKind::SalePrice).worked, "$750.00 ÷ (1 − 40 ÷ 100) = $1,250.00");
+    Enter(FieldKind::DealerOverride, "800");  // the price stays
+    EXPECT_EQ(line.Why(FieldKind::SalePrice).worked, "$750.00 ÷ (1 − 40 ÷ 100) = $1,250.00");
+    EXPECT_EQ(line.Why(FieldKind::GrossMargin).worked,
+              "($1,250.00 − $800.00) ÷ $1,250.00 × 100 = 36.0");
+    Enter(FieldKind::ListDiscount, "10");
+    EXPECT_EQ(line.Why(FieldKind::SalePrice).worked,
+              "$1,200.00 − 10 ÷ 100 × $1,200.00 = $1,080.00");
+    Enter(FieldKind::SalePrice, "900");
+    EXPECT_EQ(line.Why(FieldKind::SalePrice).rule,
+              "Entered; margin, markup and discount follow from it");
+    line.Show(0);
+    EXPECT_EQ(line.Why(FieldKind::SalePrice).rule,
+              "Saved with the project, or the list price of the chosen model");
+}
+
 TEST_F(ModelPrices, AnEmptyTextCommitsNothing) {
     line.SetText(FieldKind::SalePrice, "");
     EXPECT_FALSE(line.Commit(FieldKind::SalePrice));

@@ -8,11 +8,8 @@ namespace {
 /// Two units at 750, sold at 1000 each, listed at 1200.
 ModelPriceFacts TwoUnits() {
     ModelPriceFacts facts;
-    facts.model = "cooling model FA-1 of system 1";
-    facts.database = "/data/Frostelm.mdb";
-    facts.quantity = 2;
-    facts.dealerCost = facts.dealerOverride = 750;
-    facts.salePrice = 1000;
+    facts.model = {"System 1, cooling FA-1", "from Frostelm.mdb", 2, 750, 1000};
+    facts.dealerOverride = 750;
     facts.listPrice = 1200;
     facts.texts = {"$1,500.00", "$1,500.00", "25.0", "33.3", "16.7", "$1,000.00"};
     return facts;
@@ -26,7 +23,7 @@ std::string SourceOf(const PriceReason& reason, const std::string& name) {
 
 TEST(WhyAModelsPrice, CostsStandForAllUnits) {
     const PriceReason cost = WhyModelPrice(TwoUnits(), FieldKind::DealerCost);
-    EXPECT_EQ(cost.title, "Dealer cost of cooling model FA-1 of system 1");
+    EXPECT_EQ(cost.title, "Dealer cost · System 1, cooling FA-1");
     EXPECT_EQ(cost.figure, "$1,500.00");
     EXPECT_EQ(cost.worked, "2 × $750.00 = $1,500.00");
     ModelPriceFacts facts = TwoUnits();
@@ -56,6 +53,7 @@ TEST(WhyAModelsPrice, ThePriceTellsWhatItFollowsFrom) {
     EXPECT_EQ(WhyModelPrice(facts, FieldKind::SalePrice).note,
               "The price of one unit, whatever the quantity.");
     facts.trace = {PriceOrigin::FromMargin, 750, 40};
+    facts.texts[2] = "40.0";
     EXPECT_EQ(WhyModelPrice(facts, FieldKind::SalePrice).worked,
               "$750.00 ÷ (1 − 40 ÷ 100) = $1,250.00");
     EXPECT_EQ(WhyModelPrice(facts, FieldKind::GrossMargin).worked,
@@ -80,7 +78,7 @@ TEST(WhyAModelsPrice, AMarginOfHundredTellsTheDivisorThatItGets) {
 
 TEST(WhyAModelsPrice, AModelWithoutDatabaseAndListPriceSaysSo) {
     ModelPriceFacts facts = TwoUnits();
-    facts.database.clear();
+    facts.model.database = "no database";
     facts.listPrice = 0;
     const PriceReason reason = WhyModelPrice(facts, FieldKind::ListDiscount);
     EXPECT_EQ(reason.rule, "Without a list price there is no discount: 0");

@@ -2,13 +2,21 @@
 
 #include <QGridLayout>
 #include <QScopedValueRollback>
+#include <QToolButton>
+#include <algorithm>
 
 #include "platform/qt/fields.h"
+#include "platform/qt/form.h"
+#include "pricing/screens/price_entry.h"
+#include "pricing/screens/price_help.h"
+#include "pricing/screens/why_popup.h"
 #include "project/program_state.h"
 
 namespace tendo {
 namespace {
 
+constexpr const char* moneyRange = "0.00 to 9,999,999.99";
+constexpr const char* percentRange = "-999.9 to 999.9";
 constexpr int headingMargin = 13;  // puts a heading above the right edge of its figures
 
 struct Column {
@@ -16,14 +24,61 @@ struct Column {
     EntryKind kind;
     const char* range;
     const char* unit;
+    const char* helpButton;
+    PriceHelp help;
 };
 constexpr Column columns[ModelPriceLine::ColumnCount] = {
-    {"Dealer cost", EntryKind::Money, "0.00 to 9,999,999.99", "dollars for all units"},
-    {"Override", EntryKind::Money, "0.00 to 9,999,999.99", "dollars for all units"},
-    {"Gross margin %", EntryKind::Percent, "-999.9 to 999.9", "percent"},
-    {"Price markup %", EntryKind::Percent, "-999.9 to 999.9", "percent"},
-    {"List discount %", EntryKind::Percent, "-999.9 to 999.9", "percent"},
-    {"Sale price", EntryKind::Money, "0.00 to 9,999,999.99", "dollars for one unit"}};
+    {"Dealer cost",
+     EntryKind::Money,
+     moneyRange,
+     "dollars for all units",
+     "btnHelpDealerCost",
+     {"Dealer Cost", "What all units of this model cost you together.",
+      "Please Enter Dealer Cost:"}},
+    {"Override",
+     EntryKind::Money,
+     moneyRange,
+     "dollars for all units",
+     "btnHelpDealerOverride",
+     {"Dealer Override",
+      "A cost that takes the place of the dealer cost, for all units together. Enter 0 to go back "
+      "to the dealer cost.",
+      "Please Enter Dealer Override:"}},
+    {"Gross margin %",
+     EntryKind::Percent,
+     percentRange,
+     "percent",
+     "btnHelpGrossMargin",
+     {"Gross Margin",
+      "The part of the sale price that is left over the cost, in percent of the sale price. The "
+      "sale price follows from it.",
+      "Please Enter Gross Margin:"}},
+    {"Price markup %",
+     EntryKind::Percent,
+     percentRange,
+     "percent",
+     "btnHelpPriceMarkup",
+     {"Price Markup",
+      "What is put on the cost, in percent of the cost. The sale price follows from it.",
+      "Please Enter Price Markup:"}},
+    {"List discount %",
+     EntryKind::Percent,
+     percentRange,
+     "percent",
+     "btnHelpListDiscount",
+     {"List Discount",
+      "What the customer is let off the model's list price, in percent of it. The sale price "
+      "follows from it.",
+      "Please Enter List Discount:"}},
+    {"Sale price",
+     EntryKind::Money,
+     moneyRange,
+     "dollars for one unit",
+     "btnHelpSalePrice",
+     {"Sale Price",
+      "The price of one unit. Margin, markup and discount follow from it. The project's price "
+      "table takes the list prices when this screen is closed.",
+      "Please Enter Sale Price:"}}};
 
 struct SideNames {
     const char* label;
@@ -58,9 +113,18 @@ ModelPriceGrid::ModelPriceGrid(QWidget* parent)
 void ModelPriceGrid::AddHeadings(QGridLayout* grid) {
     int at = 0;
     for (const Column& column : columns) {
-        auto* heading = MakeHeading(column.heading, this);
+        auto* heading = new QHBoxLayout;
         heading->setContentsMargins(0, 0, headingMargin, 0);
-        grid->addWidget(heading, 0, ++at, Qt::AlignRight);
+        heading->setSpacing(5);
+        const QString about = QString("What is the %1?").arg(QString(column.help.title).toLower());
+        QToolButton* help = MakeHelpButton(column.helpButton, about, this);
+        help->setFocusPolicy(Qt::NoFocus);  // the field in focus tells the model; F1 does the same
+        connect(help, &QToolButton::clicked, this,
+                [this, kind = static_cast<FieldKind>(at)] { WantColumnHelp(kind); });
+        heading->addStretch();
+        heading->addWidget(help);
+        heading->addWidget(MakeHeading(column.heading, this));
+        grid->addLayout(heading, 0, ++at);
         grid->setColumnStretch(at, 1);
     }
 }
@@ -88,6 +152,8 @@ void ModelPriceGrid::AddLine(QGridLayout* grid, int side) {
             if (!showing_) line.prices.SetText(kind, text.toStdString());
         });
         connect(field, &TextField::Committed, this, [this, &line, kind] { Commit(line, kind); });
+        connect(field, &TextField::HelpWanted, this, [this, &line, kind] { WantHelp(line, kind); });
+        connect(field, &TextField::WhyWanted, this, [this, &line, kind] { WantWhy(line, kind); });
         grid->addWidget(field, side + 1, i + 1);
     }
     label->setBuddy(line.fields[static_cast<std::size_t>(FieldKind::DealerOverride)]);
@@ -115,6 +181,29 @@ void ModelPriceGrid::Commit(Line& line, FieldKind column) {
     const bool changed = line.prices.Commit(column);
     if (changed) State().ProjectChanged = true;
     ShowTexts(line, column, changed);
+}
+
+void ModelPriceGrid::WantHelp(const Line& line, FieldKind column) {
+    Form::CommitFocusedField();
+    TextField* field = line.fields[static_cast<std::size_t>(column)];
+    const auto text = AskWithHelp(columns[static_cast<std::size_t>(column)].help,
+                                  line.prices.Why(column), field->text().toStdString());
+    if (text) EnterText(field, QString::fromStdString(*text));
+}
+
+void ModelPriceGrid::WantWhy(const Line& line, FieldKind column) {
+    Form::CommitFocusedField();
+    WhyPopup::ShowAt(line.fields[static_cast<std::size_t>(column)], line.prices.Why(column));
+}
+
+/// A column's help mark asks for the model whose line holds the focus, without one for cooling.
+void ModelPriceGrid::WantColumnHelp(FieldKind column) {
+    const auto inFocus = [](const Line& line) {
+        return std::any_of(line.fields.begin(), line.fields.end(),
+                           [](const TextField* field) { return field->hasFocus(); });
+    };
+    const auto line = std::find_if(lines_.begin(), lines_.end(), inFocus);
+    WantHelp(line == lines_.end() ? lines_.front() : *line, column);
 }
 
 }  // namespace tendo

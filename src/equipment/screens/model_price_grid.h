@@ -31,6 +31,9 @@ class ModelPriceGrid : public QWidget {
     void AddLine(QGridLayout* grid, int side);
     void ShowTexts(Line& line, FieldKind edited, bool mark);
     void Commit(Line& line, FieldKind column);
+    void WantHelp(const Line& line, FieldKind column);
+    void WantWhy(const Line& line, FieldKind column);
+    void WantColumnHelp(FieldKind column);
 
     std::array<Line, SideCount> lines_;
     bool showing_ = false;

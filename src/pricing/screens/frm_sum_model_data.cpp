@@ -168,7 +168,8 @@ void frmSumModelData::chkHideInfo_Click() {
 
 void frmSumModelData::WantHelp(TableField field) {
     CommitFocusedField();
-    const auto text = AskWithHelp(field, WhyPrice(table_, Project(), field), table_.Text(field));
+    const auto text =
+        AskWithHelp(HelpOf(field), WhyPrice(table_, Project(), field), table_.Text(field));
     if (text) fields_.Enter(field, Q(*text));
 }
 

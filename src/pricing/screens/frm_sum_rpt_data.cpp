@@ -225,7 +225,7 @@ void frmSumRptData::WantHelp(TableField field) {
     CommitFocusedField();
     TextField* line = fields_.at(field);
     const auto text =
-        AskWithHelp(field, WhyCustomerPrice(WorkingScreen().Table(), Project(), field),
+        AskWithHelp(HelpOf(field), WhyCustomerPrice(WorkingScreen().Table(), Project(), field),
                     line->text().toStdString());
     if (text) EnterText(line, QString::fromStdString(*text));
 }

@@ -57,7 +57,7 @@ TextField* MakePriceField(TableField field, QWidget* parent) {
 void EnterText(TextField* line, const QString& text) {
     QString taken;
     for (const QChar key : text)
-        if (line->KeyFilter(key, taken)) taken += key;
+        if (!line->KeyFilter || line->KeyFilter(key, taken)) taken += key;
     line->setFocus();  // first, for leaving another field recalculates
     line->ShowText(taken);
     line->Commit();

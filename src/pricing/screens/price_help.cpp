@@ -106,9 +106,8 @@ const PriceHelp& HelpOf(TableField field) {
     return helps[0].help;
 }
 
-std::optional<std::string> AskWithHelp(TableField field, const PriceReason& reason,
+std::optional<std::string> AskWithHelp(const PriceHelp& help, const PriceReason& reason,
                                        const std::string& text) {
-    const PriceHelp& help = HelpOf(field);
     std::string told = help.text;
     if (!reason.rule.empty()) told += "\n\n" + reason.figure + " now: " + reason.rule;
     for (const std::string* line : {&reason.worked, &reason.note})

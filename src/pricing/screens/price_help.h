@@ -17,9 +17,9 @@ struct PriceHelp {
 
 const PriceHelp& HelpOf(TableField field);
 
-/// Shows the help of a field with the reason of its figure, and asks for another text, `text` at
-/// first; nothing on cancel and for fields that take no input.
-std::optional<std::string> AskWithHelp(TableField field, const PriceReason& reason,
+/// Shows a help with the reason of its figure, and asks for another text, `text` at
+/// first; nothing on cancel and for a help without a prompt.
+std::optional<std::string> AskWithHelp(const PriceHelp& help, const PriceReason& reason,
                                        const std::string& text);
 
 }  // namespace tendo
