@@ -48,6 +48,10 @@ void AddFootnote(FootnoteList list, std::string_view name, std::string_view text
     list.count = static_cast<std::int16_t>(size + 1);
 }
 
+void ClearFootnotes(FootnoteList list) {
+    Shrink(list, 0);
+}
+
 void RemoveFootnote(FootnoteList list, std::size_t row) {
     const std::size_t size = list.Size();
     if (row >= size) return;

@@ -25,6 +25,9 @@ FootnoteList AccessoryFootnotes(ProjectRecords& project);
 /// A copy of a footnote becomes the last row. RuntimeError 6 when the list is full.
 void AddFootnote(FootnoteList list, std::string_view name, std::string_view text);
 
+/// Leaves the list empty.
+void ClearFootnotes(FootnoteList list);
+
 /// Takes a row out by way of the name "Delete": a footnote that carries this name goes too.
 void RemoveFootnote(FootnoteList list, std::size_t row);
 

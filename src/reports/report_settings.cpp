@@ -24,20 +24,22 @@ constexpr std::array OwnerKeys = {OwnerKey{"OwnerName", &OwnerRecord::OwnerName}
                                   OwnerKey{"OwnerState", &OwnerRecord::OwnerState},
                                   OwnerKey{"OwnerPhone", &OwnerRecord::OwnerPhone}};
 
-ReportTextStyle ReadStyle(const std::string& name, std::int32_t barColor, std::int16_t size,
-                          bool bold) {
+ReportTextStyle ReadStyle(const std::string& name, const ReportTextStyle& standard) {
     const INIFileHandler& ini = Ini();
     ReportTextStyle style;
-    style.barColor = ini.MyGetAppProfileLong(Options, "lbl" + name, barColor);
-    style.textColor = ini.MyGetAppProfileLong(Options, "lbl" + name + "Text", 0);
-    style.fontName = ini.MyGetAppProfileString(Options, name + "Font", "Arial");
-    style.fontSize = ini.MyGetAppProfileInteger(Options, name + "FontSize", size);
-    style.fontBold = ini.MyGetAppProfileBoolean(Options, name + "FontBold", bold);
-    style.fontItalic = ini.MyGetAppProfileBoolean(Options, name + "FontItalic", false);
+    style.barColor = ini.MyGetAppProfileLong(Options, "lbl" + name, standard.barColor);
+    style.textColor = ini.MyGetAppProfileLong(Options, "lbl" + name + "Text", standard.textColor);
+    style.fontName = ini.MyGetAppProfileString(Options, name + "Font", standard.fontName);
+    style.fontSize = ini.MyGetAppProfileInteger(Options, name + "FontSize", standard.fontSize);
+    style.fontBold = ini.MyGetAppProfileBoolean(Options, name + "FontBold", standard.fontBold);
+    style.fontItalic =
+        ini.MyGetAppProfileBoolean(Options, name + "FontItalic", standard.fontItalic);
     return style;
 }
 
-ReportSettings DefaultSettings() {
+}  // namespace
+
+ReportSettings DefaultReportSettings() {
     ReportSettings settings;
     settings.MainHeader = {0xC0E0FF, 0, "Arial", 16, true, false};
     settings.SecondaryHeader = {0xC0FFFF, 0, "Arial", 14, true, false};
@@ -45,27 +47,31 @@ ReportSettings DefaultSettings() {
     return settings;
 }
 
-}  // namespace
-
 ReportSettings& CurrentReportSettings() {
-    static ReportSettings settings = DefaultSettings();
+    static ReportSettings settings = DefaultReportSettings();
     return settings;
 }
 
-void ReadReportSettings() {
+ReportSettings StoredReportSettings() {
     const auto number = [](const char* key, std::int16_t standard) {
         return Ini().MyGetAppProfileInteger(Options, key, standard);
     };
-    ReportSettings& settings = CurrentReportSettings();
-    settings.MainHeader = ReadStyle("MainHeader", 0xC0E0FF, 16, true);
-    settings.SecondaryHeader = ReadStyle("SecondaryHeader", 0xC0FFFF, 14, true);
-    settings.Body = ReadStyle("Body", WindowColor, 10, false);
+    const ReportSettings standard = DefaultReportSettings();
+    ReportSettings settings;
+    settings.MainHeader = ReadStyle("MainHeader", standard.MainHeader);
+    settings.SecondaryHeader = ReadStyle("SecondaryHeader", standard.SecondaryHeader);
+    settings.Body = ReadStyle("Body", standard.Body);
     settings.chkPageNumbers = number("chkPageNumbers", 1);
     settings.chkDate = number("chkDate", 1);
     settings.chkGraphs = number("chkGraphs", 1);
     settings.chkColorGraphs = number("chkColorGraphs", 1);
     settings.txtStartingPageNo = number("txtStartingPageNo", 1);
     settings.txtLineSpacing = number("txtLineSpacing", 100);
+    return settings;
+}
+
+void ReadReportSettings() {
+    CurrentReportSettings() = StoredReportSettings();
 }
 
 bool OwnerRecord::IsEmpty() const {

@@ -27,8 +27,12 @@ struct ReportSettings {
 
 /// The settings in force.
 ReportSettings& CurrentReportSettings();
-/// Reads them from the profile.
+/// Those of the profile.
+ReportSettings StoredReportSettings();
+/// Puts those of the profile in force.
 void ReadReportSettings();
+/// The system's own styles and page options.
+ReportSettings DefaultReportSettings();
 
 /// The installation's own company, section "Owner" of the profile.
 struct OwnerRecord {

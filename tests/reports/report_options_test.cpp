@@ -1,0 +1,247 @@
+#include "reports/report_options.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+#include "../files/test_folder.h"
+#include "platform/files/ini_file_handler.h"
+#include "platform/files/profile.h"
+#include "platform/text/runtime_error.h"
+#include "project/program_state.h"
+#include "reports/proposal_formats.h"
+
+namespace tendo {
+namespace {
+
+constexpr const char* Section = "ReportOptions";
+
+class ReportOptions : public TestFolder {
+  protected:
+    void SetUp() override {
+        before_ = Ini().AppProfileFileName;
+        Ini().AppProfileFileName = Path("Tendo.ini");
+        State().ProgramDirectory = Path("");
+    }
+    void TearDown() override {
+        Ini().AppProfileFileName = before_;
+        State().ProgramDirectory.clear();
+        CurrentReportSettings() = DefaultReportSettings();
+    }
+
+    std::string Stored(const std::string& key) const {
+        return ReadProfileString(Path("Tendo.ini"), Section, key, "none");
+    }
+    void Store(const std::string& key, const std::string& value) const {
+        WriteProfileString(Path("Tendo.ini"), Section, key, value);
+    }
+
+    ProjectRecords project;
+
+  private:
+    std::string before_;
+};
+
+TEST_F(ReportOptions, EverythingIsMarkedAtFirst) {
+    ReportOptionValues values = LoadReportOptions(project);
+    for (const ReportOption& option : ReportOptionTable())
+        if (option.key) {
+            EXPECT_EQ(values.Mark(option.control), 1) << option.control;
+        }
+    EXPECT_EQ(values.startingPage, 1);
+    EXPECT_EQ(values.lineSpacing, 100);
+    EXPECT_EQ(values.mainHeader.barColor, 0xC0E0FF);
+    EXPECT_EQ(values.secondaryHeader.fontSize, 14);
+    EXPECT_EQ(values.body.fontName, "Arial");
+    EXPECT_THROW(values.Mark("chkUnknown"), RuntimeError);
+}
+
+TEST_F(ReportOptions, ThereAreFiftyOneMarksWithNamesOfTheirOwn) {
+    // 6 reports, 6 of the summary, 18 of both models, 8 of cooling, 6 of heating, 5 general, 2
+    // pictures.
+    std::set<std::string> controls, keys, columns;
+    std::size_t withKey = 0, withColumn = 0;
+    for (const ReportOption& option : ReportOptionTable()) {
+        EXPECT_TRUE(controls.insert(option.control).second) << option.control;
+        if (option.key) withKey += keys.insert(option.key).second;
+        if (option.column) withColumn += columns.insert(option.column).second;
+    }
+    EXPECT_EQ(controls.size(), 51u);
+    EXPECT_EQ(withKey, 49u);
+    EXPECT_EQ(withColumn, 50u);
+}
+
+TEST_F(ReportOptions, WhatWasSavedIsLoaded) {
+    ReportOptionValues values = LoadReportOptions(project);
+    for (std::int16_t& mark : values.marks)
+        mark = 0;
+    values.logoFile = "logo of ours.png";
+    values.bannerFile = "banner.bmp";
+    values.startingPage = 5;
+    values.lineSpacing = 150;
+    values.mainHeader = {0x112233, 0x445566, "Courier New", 20, false, true};
+    values.body.fontSize = 9;
+    SaveReportOptions(values, project);
+    ReportOptionValues loaded = LoadReportOptions(project);
+    for (const ReportOption& option : ReportOptionTable())
+        if (std::string(option.control) != "chkPrintSalesReport") {
+            EXPECT_EQ(loaded.Mark(option.control), 0) << option.control;
+        }
+    EXPECT_EQ(loaded.logoFile, "logo of ours.png");
+    EXPECT_EQ(loaded.bannerFile, "banner.bmp");
+    EXPECT_EQ(loaded.startingPage, 5);
+    EXPECT_EQ(loaded.lineSpacing, 150);
+    EXPECT_EQ(loaded.mainHeader.barColor, 0x112233);
+    EXPECT_EQ(loaded.mainHeader.textColor, 0x445566);
+    EXPECT_EQ(loaded.mainHeader.fontName, "Courier New");
+    EXPECT_EQ(loaded.mainHeader.fontSize, 20);
+    EXPECT_FALSE(loaded.mainHeader.fontBold);
+    EXPECT_TRUE(loaded.mainHeader.fontItalic);
+    EXPECT_EQ(loaded.body.fontSize, 9);
+    // The cached styles and page options are those of the screen at once.
+    EXPECT_EQ(CurrentReportSettings().MainHeader.fontName, "Courier New");
+    EXPECT_EQ(CurrentReportSettings().txtStartingPageNo, 5);
+    EXPECT_EQ(CurrentReportSettings().chkDate, 0);
+}
+
+TEST_F(ReportOptions, TheSalesReportIsMarkedAgainWheneverTheScreenOpens) {
+    ReportOptionValues values = LoadReportOptions(project);
+    values.Mark("chkPrintSalesReport") = 0;
+    values.Mark("chkPrintTitleReport") = 0;
+    SaveReportOptions(values, project);
+    EXPECT_EQ(Stored("chkPrintSalesReport"), "0");
+    EXPECT_EQ(Stored("PrintSalesReport"), "none");
+    EXPECT_EQ(Stored("chkPrintTitleReport"), "0");
+    EXPECT_EQ(Stored("PrintTitleReport"), "0");
+    ReportOptionValues loaded = LoadReportOptions(project);
+    EXPECT_EQ(loaded.Mark("chkPrintSalesReport"), 1);
+    EXPECT_EQ(loaded.Mark("chkPrintTitleReport"), 0);
+}
+
+TEST_F(ReportOptions, KeysOfTheSummaryHaveTheirOwnNames) {
+    Store("ClientFax", "0");
+    Store("CompanyRep", "0");
+    Store("chkCompanyID", "0");
+    ReportOptionValues values = LoadReportOptions(project);
+    EXPECT_EQ(values.Mark("chkClientFax"), 0);
+    EXPECT_EQ(values.Mark("chkCompRep"), 0);
+    EXPECT_EQ(values.Mark("chkCompanyID"), 1);
+}
+
+TEST_F(ReportOptions, TheCommentMarksAreTheProjects) {
+    project.GPDClientFormat.ClientPrintComment = 1;
+    project.GPDCompanyFormat.CompanyPrintComment = 0;
+    ReportOptionValues values = LoadReportOptions(project);
+    EXPECT_EQ(values.Mark("chkClientComment"), 1);
+    EXPECT_EQ(values.Mark("chkCompComment"), 0);
+    values.Mark("chkClientComment") = 0;
+    values.Mark("chkCompComment") = 1;
+    SaveReportOptions(values, project);
+    EXPECT_EQ(project.GPDClientFormat.ClientPrintComment, 0);
+    EXPECT_EQ(project.GPDCompanyFormat.CompanyPrintComment, 1);
+}
+
+class ProposalFormats : public ReportOptions {
+  protected:
+    void SetUp() override {
+        ReportOptions::SetUp();
+        columnsMade = MakeFormatDB(ProposalFormatFile());
+    }
+    using Names = std::vector<std::string>;
+
+    int columnsMade = 0;
+    FootnoteList list = ProposalFootnotes(project);
+    ReportOptionValues values;
+};
+
+TEST_F(ProposalFormats, TheDatabaseIsMadeWithSixtyColumns) {
+    EXPECT_EQ(columnsMade, 60);
+    EXPECT_EQ(ProposalFormatNames(), Names{});
+}
+
+TEST_F(ProposalFormats, AFormatKeepsAllOptionsAndFootnotes) {
+    for (std::size_t i = 0; i < values.marks.size(); ++i)
+        values.marks[i] = i % 2;
+    values.logoFile = "logo.png";
+    values.bannerFile = "frmBanner";
+    values.startingPage = 3;
+    values.lineSpacing = 120;
+    values.mainHeader.barColor = 0x0102;
+    values.body.textColor = WindowColor;
+    AddFootnote(list, "Terms", "{\\rtf1 a}");
+    AddFootnote(list, "Warranty", "{\\rtf1 b}");
+    EXPECT_TRUE(SaveProposalFormat("Ours", values, list));
+
+    ReportOptionValues loaded;
+    loaded.Mark("chkAutoRefresh") = 7;
+    ClearFootnotes(list);
+    AddFootnote(list, "other", "");
+    EXPECT_TRUE(LoadProposalFormat("Ours", loaded, list));
+    values.Mark("chkAutoRefresh") = 7;  // no part of a format
+    EXPECT_EQ(loaded.marks, values.marks);
+    EXPECT_EQ(loaded.logoFile, "logo.png");
+    EXPECT_EQ(loaded.bannerFile, "frmBanner");
+    EXPECT_EQ(loaded.startingPage, 3);
+    EXPECT_EQ(loaded.lineSpacing, 120);
+    EXPECT_EQ(loaded.mainHeader.barColor, 0x0102);
+    EXPECT_EQ(loaded.body.textColor, WindowColor);
+    ASSERT_EQ(list.Size(), 2u);
+    EXPECT_EQ(list.rows[0].Name.Trimmed(), "Terms");
+    EXPECT_EQ(list.rows[1].Description, "{\\rtf1 b}");
+}
+
+TEST_F(ProposalFormats, SavingUnderAnExistingNameReplacesIt) {
+    AddFootnote(list, "one", "");
+    SaveProposalFormat("Ours", values, list);
+    values.startingPage = 9;
+    ClearFootnotes(list);
+    SaveProposalFormat("Ours", values, list);
+    EXPECT_EQ(ProposalFormatNames(), Names{"Ours"});
+    AddFootnote(list, "gone", "");
+    ReportOptionValues loaded;
+    LoadProposalFormat("Ours", loaded, list);
+    EXPECT_EQ(loaded.startingPage, 9);
+    EXPECT_EQ(list.Size(), 0u);
+}
+
+TEST_F(ProposalFormats, ANameWithAnApostropheWorks) {
+    SaveProposalFormat("Owner's", values, list);
+    SaveProposalFormat("Other", values, list);
+    EXPECT_TRUE(LoadProposalFormat("Owner's", values, list));
+    DeleteProposalFormat("Owner's");
+    EXPECT_EQ(ProposalFormatNames(), Names{"Other"});
+}
+
+TEST_F(ProposalFormats, AFormatThatIsNotThereChangesNothing) {
+    AddFootnote(list, "kept", "");
+    values.startingPage = 4;
+    EXPECT_FALSE(LoadProposalFormat("None", values, list));
+    EXPECT_EQ(values.startingPage, 4);
+    EXPECT_EQ(list.Size(), 1u);
+}
+
+TEST_F(ProposalFormats, DeletingTakesItsFootnotesAlong) {
+    AddFootnote(list, "one", "");
+    SaveProposalFormat("A", values, list);
+    SaveProposalFormat("B", values, list);
+    DeleteProposalFormat("A");
+    SaveProposalFormat("A", values, AccessoryFootnotes(project));
+    EXPECT_TRUE(LoadProposalFormat("A", values, list));
+    EXPECT_EQ(list.Size(), 0u);
+    EXPECT_TRUE(LoadProposalFormat("B", values, list));
+    EXPECT_EQ(list.Size(), 1u);
+}
+
+TEST_F(ReportOptions, WithoutTheDatabaseOfFormatsNothingHappens) {
+    ReportOptionValues values;
+    FootnoteList list = ProposalFootnotes(project);
+    EXPECT_FALSE(SaveProposalFormat("A", values, list));
+    EXPECT_FALSE(LoadProposalFormat("A", values, list));
+    DeleteProposalFormat("A");
+    EXPECT_TRUE(ProposalFormatNames().empty());
+    EXPECT_EQ(EntryCount(), 0);
+}
+
+}  // namespace
+}  // namespace tendo
