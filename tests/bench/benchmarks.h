@@ -17,6 +17,9 @@ bool TakeoffMerge(const std::string& folder);
 /// The same takeoff on its page: turning it, and its four views. Needs the QApplication.
 bool TakeoffPages(const std::string& folder);
 
+/// A workbook of 10,000 rows into a price book; skipped, and said so, without LibreOffice.
+bool WorkbookImportSpeed(const std::string& folder);
+
 /// The model selection on a database of 40,000 air conditioners. Needs the QApplication.
 bool ModelSelectionScreen(const std::string& folder);
 

@@ -27,6 +27,7 @@ int main(int argc, char** argv) {
         {"save", false, [&] { return ProjectSave(folder); }},
         {"price", false, PriceCommit},
         {"takeoff", false, [&] { return TakeoffMerge(folder); }},
+        {"import", false, [&] { return WorkbookImportSpeed(folder); }},
         {"pages", true, [&] { return TakeoffPages(folder); }},
         {"pdf", true, [&] { return ReportPdf(folder, share); }},
         {"selection", true, [&] { return ModelSelectionScreen(folder); }}};

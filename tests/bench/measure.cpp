@@ -64,4 +64,9 @@ bool Report(const std::string& what, double ours, double peer, const std::string
     return holds;
 }
 
+void Skip(const std::string& what, const std::string& why) {
+    std::printf("%-52s skipped: %s\n", what.c_str(), why.c_str());
+    std::fflush(stdout);
+}
+
 }  // namespace tendo::bench

@@ -22,4 +22,7 @@ double PeakGrowth(const std::function<void()>& work);
 bool Report(const std::string& what, double ours, double peer, const std::string& unit,
             double limit, bool atMost);
 
+/// One line that says why something was not measured.
+void Skip(const std::string& what, const std::string& why);
+
 }  // namespace tendo::bench
