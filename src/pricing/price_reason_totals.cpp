@@ -173,7 +173,7 @@ void TellTotalMargin(PriceReason& reason, const PriceTable& table, const Project
     reason.rule = "(total − sub-total) ÷ total × 100, the tax left in the total";
     reason.worked = GrossMarginFormula(subTotal, total).figures;
     if (!ShowsPercent(table, Field::TotalGrossMargin, GrossMarginFromSale(subTotal, total)))
-        reason.note = "The figure stands from an earlier calculation.";
+        reason.note = "Calculated before the total followed the last edit of a row.";
 }
 
 struct TotalTeller {

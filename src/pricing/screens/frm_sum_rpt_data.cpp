@@ -102,7 +102,10 @@ QWidget* frmSumRptData::MakePrices() {
         TextField* line = Add(row.field, box);
         line->setProperty("strong", row.field == TableField::TotalSalePrice);
         label->setBuddy(line);
-        if (row.field == TableField::LaborSalePrice) lblLabor_ = label;
+        if (row.field == TableField::LaborSalePrice) {
+            label->setObjectName("lblLabor");
+            lblLabor_ = label;
+        }
         grid->addWidget(label, ++at, 0);
         grid->addWidget(MakeHelpMark(row.field, box), at, 1);
         grid->addWidget(line, at, 2);
