@@ -75,7 +75,7 @@ void BookCellEditor::updateEditorGeometry(QWidget* editor, const QStyleOptionVie
     editor->setGeometry(option.rect);
 }
 
-/// The ground is painted before, so that the style sheet's selection lies above it.
+/// The ground is painted in `paint`: the style sheet would leave it out.
 void BookCellEditor::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     option->backgroundBrush = QBrush();
@@ -85,9 +85,10 @@ void BookCellEditor::initStyleOption(QStyleOptionViewItem* option, const QModelI
 void BookCellEditor::paint(QPainter* painter, const QStyleOptionViewItem& option,
                            const QModelIndex& index) const {
     const QVariant ground = index.data(Qt::BackgroundRole);
-    if (ground.isValid()) painter->fillRect(option.rect, ground.value<QColor>());
+    const bool selected = option.state & QStyle::State_Selected;
+    if (ground.isValid() && !selected) painter->fillRect(option.rect, ground.value<QColor>());
     QStyledItemDelegate::paint(painter, option, index);
-    if (index.column() != CategoryColumn || !(option.state & QStyle::State_Selected)) return;
+    if (index.column() != CategoryColumn || !selected) return;
     const double ratio = painter->device()->devicePixelRatioF();
     painter->drawPixmap(option.rect.right() - chevronSize - 4,
                         option.rect.center().y() - chevronSize / 2 + 1,

@@ -10,6 +10,8 @@ constexpr const char* markedSign = "✓";
 constexpr const char* editedSign = "*";
 constexpr const char* currentSign = "▸";
 
+constexpr int longText = 18;  // letters that may not fit into a cell
+
 bool IsMoney(int column) {
     return BookColumns.at(static_cast<std::size_t>(column)).money;
 }
@@ -34,6 +36,10 @@ QVariant BookGrid::data(const QModelIndex& index, int role) const {
     switch (role) {
         case Qt::DisplayRole:
             return QString::fromStdString(book_.Rows().CellText(index.row(), index.column()));
+        case Qt::ToolTipRole: {
+            const QString text = data(index, Qt::DisplayRole).toString();
+            return text.size() > longText ? QVariant(text) : QVariant();
+        }
         case Qt::EditRole:
             return QString::fromStdString(book_.Rows().EditText(index.row(), index.column()));
         case Qt::TextAlignmentRole:

@@ -25,7 +25,7 @@ constexpr const char* gridSheet =
 constexpr int cellPadding = 26;
 
 /// Widths of the columns in letters.
-constexpr std::array<int, BookColumns.size()> columnLetters = {18, 30, 16, 12, 12};
+constexpr std::array<int, BookColumns.size()> columnLetters = {19, 30, 13, 9, 9};
 
 QHBoxLayout* RowOf(QWidget* box) {
     auto* row = new QHBoxLayout(box);
@@ -111,7 +111,7 @@ QWidget* frmEditMaterials::MakeCategories() {
     DBLCategory_->setAccessibleName("Categories");
     DBLCategory_->setUniformItemSizes(true);
     DBLCategory_->setStyleSheet("QListWidget::item { padding: 3px 8px; }");
-    box->setFixedWidth(fontMetrics().averageCharWidth() * 28);
+    box->setFixedWidth(fontMetrics().averageCharWidth() * 24);
     column->addWidget(MakeLabel("&Categories", DBLCategory_, box));
     column->addWidget(DBLCategory_, 1);
     column->addWidget(MakeButton("btnNewCategory", "New categor&y…", box,
