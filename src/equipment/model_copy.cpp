@@ -1,11 +1,16 @@
 #include "equipment/model_copy.h"
 
 #include <array>
+#include <cfloat>
+#include <cmath>
 #include <span>
 #include <string_view>
 #include <variant>
 
 #include "equipment/model_database.h"
+#include "platform/text/number_text.h"
+#include "platform/text/runtime_error.h"
+#include "platform/text/text.h"
 #include "pricing/model_price_columns.h"
 
 namespace tendo {
@@ -83,6 +88,34 @@ constexpr FieldCopy<WH> WaterHeaterFields[] = {{&WH::ModelNum, "Model"},
 constexpr std::array<const char*, ModelTabCount> ModelTypes = {
     "Air Conditioner", "Heat Pump", "Ground Source Heat Pump", "Furnace", "Boiler", "Water Heater"};
 
+/// A figure of a row; a text that doesn't read as a number counts as 0.
+float FigureIn(const Recordset& row, const std::string& column) {
+    const jet::Value value = row.Get(column);
+    const auto* text = std::get_if<std::string>(&value);
+    return text ? ValueOfText(*text) : row.Single(column);
+}
+
+/// A price of a row. A price that can't be read is none: RuntimeError 13 for a text that is no
+/// number, 3265 without the column.
+float PriceIn(const Recordset& row, const std::string& column) {
+    const jet::Value value = row.Get(column);
+    const auto* text = std::get_if<std::string>(&value);
+    if (!text) return row.Single(column);
+    double amount = 0;
+    if (!Trimmed(*text).empty() && !ReadNumber(*text, amount))
+        ThrowError(error_number::TypeMismatch);
+    if (std::abs(amount) > static_cast<double>(FLT_MAX)) ThrowError(error_number::Overflow);
+    return static_cast<float>(amount);
+}
+
+/// 0, which no fuel has, where the row has no code that can be read.
+std::int32_t FuelCodeIn(const Recordset& row) {
+    const std::string column = ColumnIn(row, "FuelType");
+    if (column.empty()) return 0;
+    const float code = FigureIn(row, column);
+    return code >= 1 && code < 100 ? static_cast<std::int32_t>(std::lround(code)) : 0;
+}
+
 template <class Record>
 struct Store {
     const Recordset& row;
@@ -93,7 +126,7 @@ struct Store {
     void operator()(FixedText<Width> Record::*field) const {
         record.*field = row.Text(column);
     }
-    void operator()(float Record::*field) const { record.*field = row.Single(column); }
+    void operator()(float Record::*field) const { record.*field = FigureIn(row, column); }
 };
 
 template <class Record>
@@ -130,7 +163,7 @@ HTG ReadHeating(int tab, const Recordset& row) {
     CopyFields<HTG>(HeatingFields, row, model);
     if (tab == TabFurnace || tab == TabBoiler) {
         CopyFields<HTG>(FurnaceFields, row, model);
-        model.FuelType = FurnaceFuelText(row.Long("FuelType"));
+        model.FuelType = FurnaceFuelText(FuelCodeIn(row));
     } else {
         CopyFields<HTG>(HeatPumpFields, row, model);
     }
@@ -141,7 +174,7 @@ WH ReadWaterHeater(int tab, const Recordset& row) {
     WH model;
     NameModel(tab, model);
     CopyFields<WH>(WaterHeaterFields, row, model);
-    model.FuelType = WaterHeaterFuelText(row.Long("FuelType"));
+    model.FuelType = WaterHeaterFuelText(FuelCodeIn(row));
     return model;
 }
 
@@ -183,8 +216,8 @@ ChosenModel ReadChosenModel(SelectionMode mode, int tab, const Recordset& row) {
     if (mode == SelectionMode::Cooling) model.cooling = ReadCooling(tab, row);
     if (mode == SelectionMode::Heating) model.heating = ReadHeating(tab, row);
     if (mode == SelectionMode::WaterHeater) model.waterHeater = ReadWaterHeater(tab, row);
-    model.dealerCost = row.Single("DealerCost");
-    model.listPrice = row.Single("ListPrice");
+    model.dealerCost = PriceIn(row, "DealerCost");
+    model.listPrice = PriceIn(row, "ListPrice");
     return model;
 }
 

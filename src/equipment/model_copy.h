@@ -19,7 +19,9 @@ struct ChosenModel {
     float listPrice = 0;
 };
 
-/// Reads the current row of a tab as the mode takes it; null and missing columns give blank and 0.
+/// Reads the current row of a tab as the mode takes it; null and missing columns give blank and 0,
+/// and so do texts in columns of figures. RuntimeError for a row whose prices can't be read: 3265
+/// without the column, 13 for a text that is no number, 6 out of range.
 ChosenModel ReadChosenModel(SelectionMode mode, int tab, const Recordset& row);
 
 /// Takes the system's old model of the mode out of the price table and puts the new one, its prices

@@ -53,7 +53,12 @@ std::string CheckToSeeIfDbaseExists(std::string_view name) {
 std::string CheckToSeeIfDbaseExists(std::string_view name, std::string_view defaultDB) {
     std::string fileName = WithModelExtension(Trimmed(name));
     if (FileExists(fileName)) return fileName;
-    return State().CommonDirectory + WithModelExtension(Trimmed(defaultDB));
+    const std::string standard = WithModelExtension(Trimmed(defaultDB));
+    std::string common = State().CommonDirectory + standard;
+    // A default that was browsed for stands with its folder.
+    if (!FileExists(common) && standard != BaseName(standard) && FileExists(standard))
+        return standard;
+    return common;
 }
 
 std::string FurnaceFuelText(std::int32_t code) {

@@ -14,7 +14,8 @@ std::string WithModelExtension(std::string_view name);
 
 /// The full file name that a model database is to be opened with: the trimmed name with its
 /// extension when a file by that name exists, else the project's `DefaultDB` in the
-/// `CommonDirectory`. The result need not exist.
+/// `CommonDirectory`, or, when that isn't there and `DefaultDB` names a file with its folder, that
+/// file. The result need not exist.
 std::string CheckToSeeIfDbaseExists(std::string_view name);
 /// The same for another project's default database.
 std::string CheckToSeeIfDbaseExists(std::string_view name, std::string_view defaultDB);

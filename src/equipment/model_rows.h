@@ -11,12 +11,20 @@
 
 namespace tendo {
 
-/// The rows that a tab shows, as texts of its grid, and the current one. Rows and columns count
-/// from 0. Without a database it is empty.
+/// A column of the grid that its rows are shown by.
+struct ModelSort {
+    int column = 0;
+    bool descending = false;
+};
+
+/// The rows of a tab's query, as texts of its grid, and the current one. Rows and columns count
+/// from 0; rows stand in the order of the query. The grid may show them in another order: a place
+/// is where it shows a row. Without a database there are none.
 class ModelRows {
   public:
     ModelRows() = default;
-    ModelRows(Recordset rows, int tab);
+    /// Runs a query: a table's name or a text that begins with "Select *".
+    ModelRows(Database& database, const std::string& source, int tab);
 
     int Count() const;
     /// -1 without rows.
@@ -34,17 +42,32 @@ class ModelRows {
     bool FindFirst(const std::string& criteria);
     bool FindNext(const std::string& criteria);
 
+    /// Shows the rows by a column, empty cells as the smallest; rows of one value stay in the order
+    /// of the query, and so do all without a sort. The current row stays the same.
+    void SortBy(Database& database, const std::optional<ModelSort>& sort);
+    /// -1 outside of the grid.
+    int RowAt(int place) const;
+    int PlaceOf(int row) const;
+    /// The next row, from a place on and round to it again, whose model number begins with a text,
+    /// else one that holds it; letters of either case. -1 when there is none.
+    int FindTyped(Database& database, std::string_view text, int fromPlace);
+
     /// Only with rows.
     const Recordset& Current() const { return *rows_; }
 
   private:
     void ReadCells(int row) const;
+    std::string QueryOf(std::string_view columns) const;
+    void ReadModelNumbers(Database& database);
 
     mutable std::optional<Recordset> rows_;
+    std::string source_;
     int tab_ = 0;
     std::vector<std::string> fields_;  // by grid column, as this database names them
     mutable int cachedRow_ = -1;
     mutable std::vector<std::string> cachedCells_;
+    std::vector<int> order_, places_;        // row by place and place by row; empty: unsorted
+    std::vector<std::string> modelNumbers_;  // in small letters, by row; empty until needed
 };
 
 }  // namespace tendo

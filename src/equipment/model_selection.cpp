@@ -1,5 +1,7 @@
 #include "equipment/model_selection.h"
 
+#include <cfloat>
+#include <cmath>
 #include <utility>
 
 #include "equipment/model_copy.h"
@@ -76,7 +78,7 @@ bool ModelSelection::Open() {
         for (const int visible : VisibleTabs()) {
             tab = visible;
             const std::string query = ModelQueryText(mode_, tab, Limits(tab));
-            StateOf(tab).rows = ModelRows(database_->OpenRecordset(query), tab);
+            StateOf(tab).rows = ModelRows(*database_, query, tab);
         }
         return true;
     } catch (const RuntimeError& error) {
@@ -98,7 +100,7 @@ bool ModelSelection::ChangeDatabase(std::string_view fileName) {
         std::array<ModelRows, ModelTabCount> rows;
         for (const int visible : VisibleTabs()) {
             tab = visible;
-            rows[Index(tab)] = ModelRows(database.OpenRecordset(ModelTabAt(tab).allRows), tab);
+            rows[Index(tab)] = ModelRows(database, std::string(ModelTabAt(tab).allRows), tab);
         }
         UseDatabase(name, std::move(database), std::move(rows));
         return true;
@@ -117,6 +119,8 @@ void ModelSelection::UseDatabase(const std::string& name, Database database,
     }
     database_ = std::move(database);
     databaseName_ = name;
+    for (const int tab : VisibleTabs())
+        ApplySort(tab);
 }
 
 bool ModelSelection::IsVisible(int tab) const {
@@ -144,9 +148,12 @@ void ModelSelection::Requery(int tab) {
     if (markedTab_ == tab) marked = state.rows.Bookmark();
     try {
         const std::string query = ModelQueryText(mode_, tab, state.limits);
-        state.rows = ModelRows(database_->OpenRecordset(query), tab);
+        state.rows = ModelRows(*database_, query, tab);
         // A marked row that the new limits hide is no choice any longer.
-        if (marked && !state.rows.MoveToBookmark(*marked)) markedTab_.reset();
+        const bool kept = marked && state.rows.MoveToBookmark(*marked);
+        if (marked && !kept) markedTab_.reset();
+        ApplySort(tab);
+        if (!kept) state.rows.MoveTo(state.rows.RowAt(0));
     } catch (const RuntimeError& error) {
         if (marked) markedTab_.reset();
         state.rows = ModelRows();
@@ -161,8 +168,8 @@ std::string ModelSelection::Title() const {
 
 bool ModelSelection::SetLimit(ModelLimit limit, std::string_view text) {
     double value = 0;
-    if (!ReadNumber(text, value)) return false;
-    StateOf(currentTab_).limits.*TextsOf(limit).value = ValueOfText(text);
+    if (!ReadNumber(text, value) || std::abs(value) > static_cast<double>(FLT_MAX)) return false;
+    StateOf(currentTab_).limits.*TextsOf(limit).value = static_cast<float>(value);
     Requery(currentTab_);
     return true;
 }
@@ -221,6 +228,39 @@ void ModelSelection::ClickRow(int tab, int row) {
     markedTab_ = tab;
 }
 
+/// Shows the tab's rows by its sort; one that can't be had is told and given up.
+void ModelSelection::ApplySort(int tab) {
+    TabState& state = StateOf(tab);
+    if (!database_) return;
+    try {
+        state.rows.SortBy(*database_, state.sort);
+    } catch (const RuntimeError& error) {
+        state.sort.reset();
+        Tell(error.Description());
+    }
+}
+
+void ModelSelection::SortByColumn(int tab, int column) {
+    std::optional<ModelSort>& sort = StateOf(tab).sort;
+    if (!sort || sort->column != column) {
+        sort = ModelSort{column, false};
+    } else if (!sort->descending) {
+        sort->descending = true;
+    } else {
+        sort.reset();
+    }
+    ApplySort(tab);
+}
+
+bool ModelSelection::FindTyped(int tab, std::string_view text) {
+    if (!database_) return false;
+    ModelRows& rows = StateOf(tab).rows;
+    const int row = rows.FindTyped(*database_, text, rows.PlaceOf(rows.CurrentRow()));
+    if (row < 0) return false;
+    rows.MoveTo(row);
+    return true;
+}
+
 bool ModelSelection::EPACompliant(int tab) const {
     return CellText(tab, CurrentRow(tab), 0) == "Yes";
 }
@@ -254,6 +294,10 @@ bool ModelSelection::Find(const std::string& text) {
     if (StateOf(currentTab_).rows.FindFirst(criteria)) return true;
     Tell("No more records found with " + text + ".");
     return false;
+}
+
+bool ModelSelection::WHProvidesHeat() const {
+    return records_.WHModelData.at(Index(system_)).WHIsHydroAirComponent == 1;
 }
 
 bool ModelSelection::SelectModel(bool whProvidesHeat) {

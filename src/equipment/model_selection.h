@@ -84,6 +84,19 @@ class ModelSelection {
     void ClickRow(int tab, int row);
     /// The marked tab; nothing without a mark.
     std::optional<int> MarkedTab() const { return markedTab_; }
+
+    /// A click on a column head: the grid shows its rows by that column, at a second click the
+    /// other way round, at a third as the query gives them. Queries, searches and the current row
+    /// go on in the query's order.
+    void SortByColumn(int tab, int column);
+    const std::optional<ModelSort>& Sorting(int tab) const { return StateOf(tab).sort; }
+    /// The row that the grid shows at a place, and the place of a row; -1 outside of the grid.
+    int RowAt(int tab, int place) const { return StateOf(tab).rows.RowAt(place); }
+    int PlaceOf(int tab, int row) const { return StateOf(tab).rows.PlaceOf(row); }
+    /// Moves the current row to the next shown one, itself included, whose model number begins with
+    /// a typed text, else holds it. False when there is none.
+    bool FindTyped(int tab, std::string_view text);
+
     /// The first cell of the tab's current row reads "Yes".
     bool EPACompliant(int tab) const;
 
@@ -96,6 +109,9 @@ class ModelSelection {
     bool Search(std::string_view text);
     bool RepeatSearch();
 
+    /// The system's water heater is marked as heating the house too: how the check box stands at
+    /// first.
+    bool WHProvidesHeat() const;
     /// Copies the marked row into the system and its prices into the project's table, then clears
     /// the mark. Without a mark, or when the row can't be read (message), nothing is copied and the
     /// result is false. `whProvidesHeat` is the state of the water heater's check box.
@@ -106,6 +122,7 @@ class ModelSelection {
         ModelLimits limits;
         std::string searchText;
         ModelRows rows;
+        std::optional<ModelSort> sort;
         int total = -1;  // rows of the table within no limits; -1 until someone asks
     };
 
@@ -117,6 +134,7 @@ class ModelSelection {
     void UseDatabase(const std::string& name, Database database,
                      std::array<ModelRows, ModelTabCount> rows);
     void Requery(int tab);
+    void ApplySort(int tab);
     bool Find(const std::string& text);
     void Tell(const std::string& text) const;
     void ReportFailure(std::string_view name, int tab, int errorNumber) const;

@@ -52,6 +52,14 @@ TEST(ModelDatabaseName, ADefaultThatHasItsExtensionIsFoundInTheCommonDirectory) 
     EXPECT_EQ(CheckToSeeIfDbaseExists("", "FROSTELM.MDB"), folder.Path("FROSTELM.MDB"));
 }
 
+TEST(ModelDatabaseName, ADefaultThatWasBrowsedForIsFoundInItsFolder) {
+    const CommonFolder folder, elsewhere;  // the second one is the common directory
+    WriteText(folder.Path("Mine.mdb"), "x");
+    EXPECT_EQ(CheckToSeeIfDbaseExists("Gone", folder.Path("Mine")), folder.Path("Mine.mdb"));
+    EXPECT_EQ(CheckToSeeIfDbaseExists("Gone", folder.Path("NotThere")),
+              elsewhere.Path("") + folder.Path("NotThere.mdb"));
+}
+
 TEST(FuelCodes, FurnacesAreOneToFourAndBoilersFiveToEight) {
     const char* texts[] = {"Oil", "Gas", "Gas/Propane", "Propane"};
     for (int code = 1; code <= 4; ++code) {

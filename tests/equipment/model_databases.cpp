@@ -11,8 +11,8 @@ jet::Column ColumnOf(const std::string& text) {
     static const std::map<char, jet::ColumnType> types = {
         {'b', jet::ColumnType::Boolean}, {'t', jet::ColumnType::Text},
         {'w', jet::ColumnType::Text},    {'c', jet::ColumnType::Currency},
-        {'s', jet::ColumnType::Single},  {'i', jet::ColumnType::Integer},
-        {'d', jet::ColumnType::Date}};
+        {'s', jet::ColumnType::Single},  {'f', jet::ColumnType::Double},
+        {'i', jet::ColumnType::Integer}, {'d', jet::ColumnType::Date}};
     jet::Column column;
     column.name = text.substr(0, text.find(':'));
     column.type = types.at(text.back());

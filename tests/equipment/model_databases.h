@@ -31,7 +31,7 @@ class CommonFolder {
 using NamedRow = std::map<std::string, jet::Value>;
 
 /// What a small model database is made of. Columns are "Name:type" with the types b (Boolean), t
-/// (text of 35), w (text of 255), c (currency), s (Single), i (Integer) and d (date).
+/// (text of 35), w (text of 255), c (currency), s (Single), f (Double), i (Integer) and d (date).
 struct SmallTable {
     std::string name;
     std::vector<std::string> columns;

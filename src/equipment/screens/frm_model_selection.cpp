@@ -1,18 +1,15 @@
 #include "equipment/screens/frm_model_selection.h"
 
 #include <QCheckBox>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QScreen>
 #include <QTabWidget>
-#include <QTableView>
 
 #include "equipment/model_database.h"
 #include "equipment/screens/epa_mark.h"
-#include "equipment/screens/model_grid.h"
+#include "equipment/screens/model_view.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
 #include "project/program_state.h"
@@ -56,39 +53,21 @@ void frmModelSelection::ShowDatabase() {
     txtDatabase_->ShowText(name);
     txtDatabase_->setModified(false);
     txtDatabase_->setToolTip(name);
-    for (const int tab : selection_.VisibleTabs())
-        ShowTab(tab);
+    for (const int tab : selection_.VisibleTabs()) {
+        views_[static_cast<std::size_t>(tab)]->Refill(true);
+        ShowEPAMark(tab);
+    }
     ShowTexts();
 }
 
-/// The rows of a tab after its query ran.
-void frmModelSelection::ShowTab(int tab) {
-    const auto slot = static_cast<std::size_t>(tab);
-    QTableView* view = views_[slot];
-    ModelGrid* grid = grids_[slot];
-    {
-        const QScopedValueRollback<bool> showing(showing_, true);
-        grid->Reset([] {});
-    }
-    const std::vector<int> widths =
-        grid->FittingWidths(view->font(), view->horizontalHeader()->font());
-    for (std::size_t column = 0; column < widths.size(); ++column)
-        view->setColumnWidth(static_cast<int>(column),
-                             std::max(widths[column], view->horizontalHeader()->sectionSizeHint(
-                                                          static_cast<int>(column))));
-    ShowCurrentRow(tab);
-}
-
 void frmModelSelection::ShowCurrentRow(int tab) {
-    const auto slot = static_cast<std::size_t>(tab);
-    const QModelIndex index = grids_[slot]->index(selection_.CurrentRow(tab), 0);
-    {
-        const QScopedValueRollback<bool> showing(showing_, true);
-        views_[slot]->setCurrentIndex(index);
-    }
-    if (index.isValid()) views_[slot]->scrollTo(index);
+    views_[static_cast<std::size_t>(tab)]->ShowCurrentRow();
     ShowEPAMark(tab);
     ShowChoice();
+}
+
+ModelView& frmModelSelection::CurrentView() const {
+    return *views_[static_cast<std::size_t>(selection_.CurrentTab())];
 }
 
 void frmModelSelection::ShowEPAMark(int tab) {
@@ -107,11 +86,18 @@ void frmModelSelection::ShowTexts() {
     for (std::size_t i = 0; i < limitButtons_.size(); ++i)
         limitButtons_[i]->setText(Q(selection_.LimitLabel(static_cast<ModelLimit>(i))));
     btnSearch_->setText(Q(selection_.SearchLabel()));
-    const int all = selection_.TotalRowCount(tab);
-    lblCount_->setText(QString("%1 of %2").arg(selection_.RowCount(tab)).arg(all) +
-                       Q(ModelTabAt(tab).kindText));
+    ShowCount();
     ShowEPAMark(tab);
     ShowChoice();
+}
+
+/// "16 of 64 AC Models, by Price".
+void frmModelSelection::ShowCount() {
+    const int tab = selection_.CurrentTab();
+    const QString sorting = CurrentView().Sorting();
+    lblCount_->setText(
+        QString("%1 of %2").arg(selection_.RowCount(tab)).arg(selection_.TotalRowCount(tab)) +
+        Q(ModelTabAt(tab).kindText) + (sorting.isEmpty() ? "" : ", " + sorting));
 }
 
 /// Which model the select command would take: the current row of the tab last clicked into.
@@ -128,10 +114,11 @@ void frmModelSelection::SetLimit(ModelLimit limit) {
                          selection_.LimitText(limit)});
     if (!text) return;
     const Hourglass hourglass;
-    const int tab = selection_.CurrentTab();
-    selection_.SetLimit(limit, *text);
-    ShowTab(tab);
+    const bool taken = selection_.SetLimit(limit, *text);
+    if (taken) CurrentView().Refill(false);
     ShowTexts();
+    if (!taken && !text->empty())
+        lblCount_->setText(Q(*text) + " is no number, so the limit stays as it was");
 }
 
 void frmModelSelection::ClickRow(int tab, int row) {
@@ -140,16 +127,21 @@ void frmModelSelection::ClickRow(int tab, int row) {
     ShowChoice();
 }
 
+void frmModelSelection::ChooseRow(int tab, int row) {
+    ClickRow(tab, row);
+    btnSelectModel_Click();
+}
+
+/// A click on the tab in front counts too.
 void frmModelSelection::tabModels_Click(int tab) {
     const Hourglass hourglass;
     selection_.SetCurrentTab(tab);
-    ShowTab(tab);
+    CurrentView().Refill(false);
     ShowTexts();
 }
 
 /// The first column becomes the current one, whose text tells EPA compliance.
 void frmModelSelection::grid_RowChange(int tab, int row) {
-    if (showing_) return;
     selection_.SetCurrentRow(tab, row);
     ShowCurrentRow(tab);
 }
@@ -191,21 +183,22 @@ void frmModelSelection::btnSelectModel_Click() {
     if (selection_.SelectModel(providesHeat) || !marked) Unload();
 }
 
-/// Return takes the current row, the space bar marks it.
-bool frmModelSelection::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress) return Form::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    const bool select = key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (!select && key != Qt::Key_Space) return Form::eventFilter(watched, event);
-    const int tab = selection_.CurrentTab();
-    const int row = selection_.CurrentRow(tab);
-    if (row < 0) return true;
-    ClickRow(tab, row);
-    if (select) btnSelectModel_Click();
-    return true;
+/// Escape closes, F3 searches on. Keys that the field in focus knows never come here.
+void frmModelSelection::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel)) {
+        Unload();
+    } else if (event->matches(QKeySequence::Find)) {
+        btnSearch_Click();
+    } else if (event->matches(QKeySequence::FindNext)) {
+        btnRepeatSearch_Click();
+    } else {
+        Form::keyPressEvent(event);
+    }
 }
 
 void frmModelSelection::FormUnload() {
+    for (const int tab : selection_.VisibleTabs())
+        views_[static_cast<std::size_t>(tab)]->StoreWidths();
     for (const auto& refill : AfterModelSelection())
         refill();
 }

@@ -11,11 +11,10 @@ class QCheckBox;
 class QLabel;
 class QPushButton;
 class QTabWidget;
-class QTableView;
 
 namespace tendo {
 
-class ModelGrid;
+class ModelView;
 class TextField;
 
 /// The selection of a model for the current system from a manufacturer's database. It shows what
@@ -29,26 +28,28 @@ class frmModelSelection : public Form {
 
   protected:
     void FormUnload() override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     // The layout (model_selection_layout.cpp).
     QWidget* MakeDatabaseRow();
     QWidget* MakeLimitRow();
     QWidget* MakeTabs();
-    QTableView* MakeGrid(int tab);
+    void FillPage(QWidget* page, int tab);
     QWidget* MakeCommandRow();
 
     void OpenDatabase();
     void ChangeDatabase(const std::string& fileName);
     void ShowDatabase();
-    void ShowTab(int tab);
     void ShowTexts();
     void ShowChoice();
     void ShowCurrentRow(int tab);
     void ShowEPAMark(int tab);
+    void ShowCount();
+    ModelView& CurrentView() const;
     void SetLimit(ModelLimit limit);
     void ClickRow(int tab, int row);
+    void ChooseRow(int tab, int row);
     void AfterSearch();
 
     void tabModels_Click(int tab);
@@ -61,15 +62,13 @@ class frmModelSelection : public Form {
     ModelSelection selection_;
     TextField* txtDatabase_ = nullptr;
     QTabWidget* tabModels_ = nullptr;
-    std::array<QTableView*, ModelTabCount> views_{};
-    std::array<ModelGrid*, ModelTabCount> grids_{};
+    std::array<ModelView*, ModelTabCount> views_{};
     std::array<QPushButton*, 3> limitButtons_{};  // in the order of ModelLimit
     QPushButton* btnSearch_ = nullptr;
     QPushButton* btnRepeatSearch_ = nullptr;
     QCheckBox* chkWHProvidesHeat_ = nullptr;  // on the water heater's selection only
     QLabel* lblCount_ = nullptr;
     QLabel* lblChoice_ = nullptr;
-    bool showing_ = false;
 };
 
 /// Lets the user choose a model for the current system; returns when the screen has closed.

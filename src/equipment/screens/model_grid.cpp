@@ -29,10 +29,12 @@ bool ModelGrid::IsNumber(int column) const {
     return format != CellFormat::Text && format != CellFormat::YesNo && format != CellFormat::Date;
 }
 
+QString ModelGrid::Cell(int place, int column) const {
+    return QString::fromStdString(selection_.CellText(tab_, selection_.RowAt(tab_, place), column));
+}
+
 QVariant ModelGrid::data(const QModelIndex& index, int role) const {
-    const auto text = [&] {
-        return QString::fromStdString(selection_.CellText(tab_, index.row(), index.column()));
-    };
+    const auto text = [&] { return Cell(index.row(), index.column()); };
     const bool yes =
         selection_.ColumnFormat(tab_, index.column()) == CellFormat::YesNo && role != 0;
     switch (role) {
@@ -70,20 +72,25 @@ void ModelGrid::Reset(const std::function<void()>& change) {
     endResetModel();
 }
 
+/// Only the longest text of a column is measured: measuring all would take longer than reading
+/// them.
 std::vector<int> ModelGrid::FittingWidths(const QFont& font, const QFont& headingFont) const {
     const QFontMetrics cells(font), headings(headingFont);
-    std::vector<int> widths;
-    for (int column = 0; column < columnCount(); ++column)
-        widths.push_back(headings.horizontalAdvance(
-            headerData(column, Qt::Horizontal, Qt::DisplayRole).toString()));
+    const auto count = static_cast<std::size_t>(columnCount());
+    std::vector<QString> longest(count);
     for (int row = 0; row < std::min(rowCount(), measuredRows); ++row)
-        for (int column = 0; column < columnCount(); ++column) {
-            int& width = widths[static_cast<std::size_t>(column)];
-            width = std::max(width, cells.horizontalAdvance(QString::fromStdString(
-                                        selection_.CellText(tab_, row, column))));
+        for (std::size_t column = 0; column < count; ++column) {
+            const QString text = Cell(row, static_cast<int>(column));
+            if (text.size() > longest[column].size()) longest[column] = text;
         }
-    for (int& width : widths)
-        width = std::min(width, widestCell * cells.averageCharWidth()) + cellPadding;
+    std::vector<int> widths;
+    for (std::size_t column = 0; column < count; ++column) {
+        const QString heading =
+            headerData(static_cast<int>(column), Qt::Horizontal, Qt::DisplayRole).toString();
+        const int width =
+            std::max(headings.horizontalAdvance(heading), cells.horizontalAdvance(longest[column]));
+        widths.push_back(std::min(width, widestCell * cells.averageCharWidth()) + cellPadding);
+    }
     return widths;
 }
 

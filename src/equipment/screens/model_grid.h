@@ -8,7 +8,8 @@
 
 namespace tendo {
 
-/// The rows of one tab for a grid; each cell is asked for when it is shown.
+/// The rows of one tab for a grid, at the places where it shows them; each cell is asked for when
+/// it is shown.
 class ModelGrid : public QAbstractTableModel {
     Q_OBJECT
   public:
@@ -19,12 +20,14 @@ class ModelGrid : public QAbstractTableModel {
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// The tab's query ran anew. `change` runs it, between the two notices a view needs.
+    /// Other rows, or in another order. `change` makes them so, between the two notices a view
+    /// needs.
     void Reset(const std::function<void()>& change);
     /// Widths, in pixels, that each column's heading and its first rows fit in.
     std::vector<int> FittingWidths(const QFont& font, const QFont& headingFont) const;
 
   private:
+    QString Cell(int place, int column) const;
     bool IsNumber(int column) const;
 
     const ModelSelection& selection_;

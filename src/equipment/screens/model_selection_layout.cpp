@@ -1,17 +1,14 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QTabWidget>
-#include <QTableView>
 #include <QVBoxLayout>
 
 #include "equipment/model_database.h"
 #include "equipment/screens/elided_label.h"
 #include "equipment/screens/frm_model_selection.h"
-#include "equipment/screens/model_grid.h"
+#include "equipment/screens/model_view.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
 #include "platform/qt/theme.h"
@@ -21,11 +18,6 @@ namespace tendo {
 namespace {
 
 constexpr const char* messageTitle = "TENDO";
-
-/// Headings stand exactly above their cells' texts; the corner between the scroll bars is bare.
-constexpr const char* gridSheet =
-    "QHeaderView::section { padding: 6px 11px; } QTableView QTableCornerButton::section, "
-    "QAbstractScrollArea::corner { background: transparent; border: 0; }";
 
 struct LimitButton {
     ModelLimit limit;
@@ -68,13 +60,14 @@ frmModelSelection::frmModelSelection(SelectionMode mode)
     column->addWidget(MakeLimitRow());
     column->addWidget(MakeTabs(), 1);
     column->addWidget(MakeCommandRow());
-    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this,
-            [this] { Unload(); });
     resize(sizeHint());
     OpenDatabase();
     const int first = selection_.CurrentTab();
     tabModels_->setCurrentIndex(first);
     connect(tabModels_, &QTabWidget::currentChanged, this, &frmModelSelection::tabModels_Click);
+    connect(tabModels_->tabBar(), &QTabBar::tabBarClicked, this, [this](int tab) {
+        if (tab == tabModels_->currentIndex()) tabModels_Click(tab);
+    });
     views_[static_cast<std::size_t>(first)]->setFocus();
 }
 
@@ -119,52 +112,25 @@ QWidget* frmModelSelection::MakeTabs() {
     tabModels_->tabBar()->setDrawBase(false);
     tabModels_->tabBar()->setExpanding(false);
     for (int tab = 0; tab < ModelTabCount; ++tab) {
-        auto* page = new QWidget(tabModels_);
-        auto* column = new QVBoxLayout(page);
-        column->setContentsMargins(0, 10, 0, 0);
-        column->addWidget(MakeGrid(tab));
         const std::string_view name = ModelTabAt(tab).name;
+        auto* page = new QWidget(tabModels_);
         tabModels_->addTab(page, QString::fromUtf8(name.data(), qsizetype(name.size())));
         tabModels_->setTabVisible(tab, selection_.IsVisible(tab));
+        FillPage(page, tab);  // once it has its place: style sheets are read anew at each move
     }
     return tabModels_;
 }
 
-QTableView* frmModelSelection::MakeGrid(int tab) {
-    const auto slot = static_cast<std::size_t>(tab);
-    const std::string_view name = ModelTabAt(tab).gridName;
-    auto* view = new QTableView(this);
-    auto* grid = new ModelGrid(selection_, tab, view);
-    view->setObjectName(QString::fromUtf8(name.data(), qsizetype(name.size())));
-    const std::string_view kind = ModelTabAt(tab).kind;
-    view->setAccessibleName(QString::fromUtf8(kind.data(), qsizetype(kind.size())));
-    view->setModel(grid);
-    view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    view->setSelectionMode(QAbstractItemView::SingleSelection);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    view->setShowGrid(false);
-    view->setWordWrap(false);
-    view->setTabKeyNavigation(false);
-    view->verticalHeader()->hide();
-    view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 12);
-    view->horizontalHeader()->setHighlightSections(false);
-    view->horizontalHeader()->setStretchLastSection(true);
-    view->setStyleSheet(gridSheet);
-    view->horizontalHeader()->setMinimumSectionSize(40);
-    view->installEventFilter(this);
-    connect(view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this, tab](const QModelIndex& now) { grid_RowChange(tab, now.row()); });
-    connect(view, &QTableView::clicked, this,
-            [this, tab](const QModelIndex& index) { ClickRow(tab, index.row()); });
-    connect(view, &QTableView::doubleClicked, this, [this, tab](const QModelIndex& index) {
-        ClickRow(tab, index.row());
-        btnSelectModel_Click();
-    });
-    views_[slot] = view;
-    grids_[slot] = grid;
-    return view;
+void frmModelSelection::FillPage(QWidget* page, int tab) {
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(0, 10, 0, 0);
+    auto* view = new ModelView(selection_, tab, page);
+    column->addWidget(view);
+    connect(view, &ModelView::RowChanged, this, [this, tab](int row) { grid_RowChange(tab, row); });
+    connect(view, &ModelView::RowClicked, this, [this, tab](int row) { ClickRow(tab, row); });
+    connect(view, &ModelView::RowChosen, this, [this, tab](int row) { ChooseRow(tab, row); });
+    connect(view, &ModelView::SortingChanged, this, &frmModelSelection::ShowCount);
+    views_[static_cast<std::size_t>(tab)] = view;
 }
 
 QWidget* frmModelSelection::MakeCommandRow() {
@@ -172,7 +138,7 @@ QWidget* frmModelSelection::MakeCommandRow() {
     QHBoxLayout* row = RowOf(box);
     btnSearch_ = MakeButton("btnSearch", "", box);
     btnRepeatSearch_ = MakeButton("btnRepeatSearch", "&Repeat search", box);
-    QPushButton* close = MakeButton("btnClose", "Close", box);
+    QPushButton* close = MakeButton("btnClose", "&Close", box);
     const std::string_view caption = ModelSelection::SelectCommandText;
     QPushButton* select = MakeButton(
         "btnSelectModel", QString::fromUtf8(caption.data(), qsizetype(caption.size())), box);
@@ -187,8 +153,9 @@ QWidget* frmModelSelection::MakeCommandRow() {
     row->addWidget(btnSearch_);
     row->addWidget(btnRepeatSearch_);
     if (selection_.Mode() == SelectionMode::WaterHeater) {
-        chkWHProvidesHeat_ = new QCheckBox("&Water heater also heats the house", box);
+        chkWHProvidesHeat_ = new QCheckBox("&Used for both Hot Water and Space Heat", box);
         chkWHProvidesHeat_->setObjectName("chkWHProvidesHeat");
+        chkWHProvidesHeat_->setChecked(selection_.WHProvidesHeat());
         row->addSpacing(8);
         row->addWidget(chkWHProvidesHeat_);
         setTabOrder(btnRepeatSearch_, chkWHProvidesHeat_);
