@@ -32,6 +32,10 @@ const LimitTexts& TextsOf(ModelLimit limit) {
     return LimitTable[static_cast<std::size_t>(limit)];
 }
 
+ModelDatabaseFailure FailureOf(int tab, int errorNumber) {
+    return {std::string(ModelTabAt(tab).kind), errorNumber};
+}
+
 }  // namespace
 
 ModelSelection::ModelSelection(SelectionMode mode, ProjectRecords& records, int system,
@@ -57,68 +61,78 @@ void ModelSelection::Tell(const std::string& text) const {
     if (dialogs_.message) dialogs_.message(text);
 }
 
-void ModelSelection::ReportFailure(std::string_view name, int tab, int errorNumber) const {
-    Tell(ModelDatabaseMessage(name, {std::string(ModelTabAt(tab).kind), errorNumber}));
+void ModelSelection::ReportFailure(int tab, int errorNumber) const {
+    Tell(ModelDatabaseMessage(databaseName_, FailureOf(tab, errorNumber)));
 }
 
 void ModelSelection::CloseDatabase() {
-    for (TabState& state : tabs_)
+    for (TabState& state : tabs_) {
         state.rows = ModelRows();
+        state.total = -1;
+    }
     database_.reset();
     markedTab_.reset();  // the marked row belonged to that database
 }
 
-bool ModelSelection::Open() {
-    CloseDatabase();
-    databaseName_ =
+OpenedModels ModelSelection::ReadStoredDatabase() const {
+    OpenedModels models;
+    models.name =
         CheckToSeeIfDbaseExists(StoredDatabase(), records_.GPDProjectFormat.DefaultDB.Trimmed());
     int tab = currentTab_;
     try {
-        database_ = Database::OpenDatabase(databaseName_);
+        models.database = Database::OpenDatabase(models.name);
         for (const int visible : VisibleTabs()) {
             tab = visible;
             const std::string query = ModelQueryText(mode_, tab, Limits(tab));
-            StateOf(tab).rows = ModelRows(*database_, query, tab);
+            models.rows[Index(tab)] = ModelRows(*models.database, query, tab);
         }
-        return true;
     } catch (const RuntimeError& error) {
-        CloseDatabase();
-        ReportFailure(databaseName_, tab, error.Number());
-        return false;
+        models.failure = FailureOf(tab, error.Number());
     }
+    return models;
+}
+
+bool ModelSelection::Open(OpenedModels models) {
+    if (!models.failure) {
+        UseDatabase(std::move(models));
+        return true;
+    }
+    CloseDatabase();
+    databaseName_ = models.name;
+    Tell(ModelDatabaseMessage(models.name, *models.failure));
+    return false;
 }
 
 bool ModelSelection::ChangeDatabase(std::string_view fileName) {
-    const std::string name(Trimmed(fileName));
+    OpenedModels models;
+    models.name = Trimmed(fileName);
     int tab = currentTab_;
     try {
-        Database database = Database::OpenDatabase(name);
-        if (const auto failure = CheckModelDatabase(database)) {
-            Tell(ModelDatabaseMessage(name, *failure));
-            return false;
-        }
-        std::array<ModelRows, ModelTabCount> rows;
+        models.database = Database::OpenDatabase(models.name);
+        models.failure = CheckModelDatabase(*models.database);
         for (const int visible : VisibleTabs()) {
+            if (models.failure) break;
             tab = visible;
-            rows[Index(tab)] = ModelRows(database, std::string(ModelTabAt(tab).allRows), tab);
+            const std::string source(ModelTabAt(tab).allRows);
+            models.rows[Index(tab)] = ModelRows(*models.database, source, tab);
         }
-        UseDatabase(name, std::move(database), std::move(rows));
-        return true;
     } catch (const RuntimeError& error) {
-        ReportFailure(name, tab, error.Number());
+        models.failure = FailureOf(tab, error.Number());
+    }
+    if (models.failure) {
+        Tell(ModelDatabaseMessage(models.name, *models.failure));
         return false;
     }
+    UseDatabase(std::move(models));
+    return true;
 }
 
-void ModelSelection::UseDatabase(const std::string& name, Database database,
-                                 std::array<ModelRows, ModelTabCount> rows) {
+void ModelSelection::UseDatabase(OpenedModels models) {
     CloseDatabase();
-    for (int tab = 0; tab < ModelTabCount; ++tab) {
-        StateOf(tab).rows = std::move(rows[Index(tab)]);
-        StateOf(tab).total = -1;
-    }
-    database_ = std::move(database);
-    databaseName_ = name;
+    for (int tab = 0; tab < ModelTabCount; ++tab)
+        StateOf(tab).rows = std::move(models.rows[Index(tab)]);
+    database_ = std::move(models.database);
+    databaseName_ = models.name;
     for (const int tab : VisibleTabs())
         ApplySort(tab);
 }
@@ -157,7 +171,7 @@ void ModelSelection::Requery(int tab) {
     } catch (const RuntimeError& error) {
         if (marked) markedTab_.reset();
         state.rows = ModelRows();
-        ReportFailure(databaseName_, tab, error.Number());
+        ReportFailure(tab, error.Number());
     }
 }
 
@@ -193,8 +207,11 @@ int ModelSelection::RowCount(int tab) const {
 int ModelSelection::TotalRowCount(int tab) {
     TabState& state = StateOf(tab);
     if (!database_ || !IsVisible(tab)) return 0;
+    const ModelTab& described = ModelTabAt(tab);
     if (state.total < 0)
-        state.total = database_->OpenRecordset(ModelTabAt(tab).allRows).RecordCount();
+        state.total = described.allRows == described.table
+                          ? database_->RecordCount(described.table)
+                          : database_->OpenRecordset(described.allRows).RecordCount();
     return state.total;
 }
 
@@ -310,7 +327,7 @@ bool ModelSelection::SelectModel(bool whProvidesHeat) {
         model.database = ModelDatabaseName(databaseName_);
         ApplyChosenModel(mode_, model, records_, system_);
     } catch (const RuntimeError& error) {
-        ReportFailure(databaseName_, tab, error.Number());
+        ReportFailure(tab, error.Number());
         return false;
     }
     markedTab_.reset();

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "equipment/model_database.h"
 #include "equipment/model_rows.h"
 #include "equipment/model_tabs.h"
 #include "platform/database/database.h"
@@ -18,6 +19,14 @@ namespace tendo {
 struct ModelSelectionDialogs {
     std::function<void(const std::string& text)> message;
     std::function<bool(const std::string& text)> yesNo;  // true for Yes
+};
+
+/// A database just read, with the rows of the visible tabs; or why it can't be.
+struct OpenedModels {
+    std::string name;
+    std::optional<Database> database;
+    std::array<ModelRows, ModelTabCount> rows;
+    std::optional<ModelDatabaseFailure> failure;
 };
 
 enum class ModelLimit { MinimumCapacity, MaximumCapacity, MinimumEfficiency };
@@ -35,10 +44,13 @@ class ModelSelection {
     static constexpr std::string_view SearchTitle = "Search for a Specific Model";
     static constexpr std::string_view SelectCommandText = "&Select Model";
 
-    /// Opens the database that the model's `DB` of the mode leads to, and the visible tabs. A
-    /// database that can't be read gives the message and leaves every tab empty. True when it is
-    /// open.
-    bool Open();
+    /// Reads the database that the model's `DB` of the mode leads to, and the rows of the visible
+    /// tabs. Changes nothing, so it may run beside the building of a screen.
+    OpenedModels ReadStoredDatabase() const;
+    /// Opens what was read. A database that can't be read gives the message and leaves every tab
+    /// empty. True when it is open.
+    bool Open(OpenedModels models);
+    bool Open() { return Open(ReadStoredDatabase()); }
     /// Changes to another database, checked first; its tabs then show all their rows. On a failure
     /// the message is given, the former database stays, and the result is false.
     bool ChangeDatabase(std::string_view fileName);
@@ -131,13 +143,12 @@ class ModelSelection {
     const TabState& StateOf(int tab) const { return tabs_.at(Index(tab)); }
     std::string StoredDatabase() const;
     void CloseDatabase();
-    void UseDatabase(const std::string& name, Database database,
-                     std::array<ModelRows, ModelTabCount> rows);
+    void UseDatabase(OpenedModels models);
     void Requery(int tab);
     void ApplySort(int tab);
     bool Find(const std::string& text);
     void Tell(const std::string& text) const;
-    void ReportFailure(std::string_view name, int tab, int errorNumber) const;
+    void ReportFailure(int tab, int errorNumber) const;
 
     SelectionMode mode_;
     ProjectRecords& records_;

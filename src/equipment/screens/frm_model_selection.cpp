@@ -33,9 +33,8 @@ QSize frmModelSelection::sizeHint() const {
         .boundedTo(room);
 }
 
-void frmModelSelection::OpenDatabase() {
-    const Hourglass hourglass;
-    selection_.Open();
+void frmModelSelection::OpenDatabase(OpenedModels models) {
+    selection_.Open(std::move(models));
     ShowDatabase();
 }
 

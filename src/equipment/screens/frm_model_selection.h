@@ -38,7 +38,7 @@ class frmModelSelection : public Form {
     void FillPage(QWidget* page, int tab);
     QWidget* MakeCommandRow();
 
-    void OpenDatabase();
+    void OpenDatabase(OpenedModels models);
     void ChangeDatabase(const std::string& fileName);
     void ShowDatabase();
     void ShowTexts();

@@ -1,6 +1,7 @@
 #include "equipment/screens/model_grid.h"
 
 #include <QFontMetrics>
+#include <QHeaderView>
 
 #include "platform/qt/theme.h"
 
@@ -74,8 +75,8 @@ void ModelGrid::Reset(const std::function<void()>& change) {
 
 /// Only the longest text of a column is measured: measuring all would take longer than reading
 /// them.
-std::vector<int> ModelGrid::FittingWidths(const QFont& font, const QFont& headingFont) const {
-    const QFontMetrics cells(font), headings(headingFont);
+std::vector<int> ModelGrid::FittingWidths(const QFont& font, const QHeaderView& head) const {
+    const QFontMetrics cells(font);
     const auto count = static_cast<std::size_t>(columnCount());
     std::vector<QString> longest(count);
     for (int row = 0; row < std::min(rowCount(), measuredRows); ++row)
@@ -85,11 +86,10 @@ std::vector<int> ModelGrid::FittingWidths(const QFont& font, const QFont& headin
         }
     std::vector<int> widths;
     for (std::size_t column = 0; column < count; ++column) {
-        const QString heading =
-            headerData(static_cast<int>(column), Qt::Horizontal, Qt::DisplayRole).toString();
-        const int width =
-            std::max(headings.horizontalAdvance(heading), cells.horizontalAdvance(longest[column]));
-        widths.push_back(std::min(width, widestCell * cells.averageCharWidth()) + cellPadding);
+        const int text = std::min(cells.horizontalAdvance(longest[column]),
+                                  widestCell * cells.averageCharWidth());
+        widths.push_back(
+            std::max(text + cellPadding, head.sectionSizeHint(static_cast<int>(column))));
     }
     return widths;
 }

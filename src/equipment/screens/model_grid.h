@@ -6,6 +6,8 @@
 
 #include "equipment/model_selection.h"
 
+class QHeaderView;
+
 namespace tendo {
 
 /// The rows of one tab for a grid, at the places where it shows them; each cell is asked for when
@@ -24,7 +26,7 @@ class ModelGrid : public QAbstractTableModel {
     /// needs.
     void Reset(const std::function<void()>& change);
     /// Widths, in pixels, that each column's heading and its first rows fit in.
-    std::vector<int> FittingWidths(const QFont& font, const QFont& headingFont) const;
+    std::vector<int> FittingWidths(const QFont& font, const QHeaderView& head) const;
 
   private:
     QString Cell(int place, int column) const;

@@ -21,12 +21,6 @@ QSize ModelHead::sizeHint() const {
     return hint_;
 }
 
-QFont ModelHead::HeadingsFont() const {
-    QFont headings = font();
-    headings.setBold(true);  // by the style sheet
-    return headings;
-}
-
 void ModelHead::ShowSort(int column, bool descending) {
     sortColumn_ = column;
     descending_ = descending;

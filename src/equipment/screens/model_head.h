@@ -11,9 +11,6 @@ class ModelHead : public QHeaderView {
   public:
     explicit ModelHead(QWidget* parent);
     QSize sizeHint() const override;
-    /// The font of its headings.
-    QFont HeadingsFont() const;
-
     /// Marks a column as the one that the rows stand by; -1: none.
     void ShowSort(int column, bool descending);
 

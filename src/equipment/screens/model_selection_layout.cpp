@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <future>
 
 #include "equipment/model_database.h"
 #include "equipment/screens/elided_label.h"
@@ -53,6 +54,10 @@ ModelSelectionDialogs SelectionDialogs() {
 frmModelSelection::frmModelSelection(SelectionMode mode)
     : Form("frmModelSelection", "", Place::Dialog, "frmModelSelection"),
       selection_(mode, Project(), State().SystemNumber, SelectionDialogs()) {
+    const Hourglass hourglass;
+    // The database is read while the screen is being built.
+    auto reading =
+        std::async(std::launch::async, [this] { return selection_.ReadStoredDatabase(); });
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 16, 16, 16);
     column->setSpacing(12);
@@ -61,7 +66,7 @@ frmModelSelection::frmModelSelection(SelectionMode mode)
     column->addWidget(MakeTabs(), 1);
     column->addWidget(MakeCommandRow());
     resize(sizeHint());
-    OpenDatabase();
+    OpenDatabase(reading.get());
     const int first = selection_.CurrentTab();
     tabModels_->setCurrentIndex(first);
     connect(tabModels_, &QTabWidget::currentChanged, this, &frmModelSelection::tabModels_Click);

@@ -94,7 +94,7 @@ void ModelView::Refill(bool otherDatabase) {
 void ModelView::ApplyWidths() {
     if (ownWidths_ || widthsFitted_) return;
     if (ApplyStoredWidths()) return;
-    const std::vector<int> widths = grid_->FittingWidths(font(), head_->HeadingsFont());
+    const std::vector<int> widths = grid_->FittingWidths(font(), *head_);
     for (std::size_t column = 0; column < widths.size(); ++column)
         setColumnWidth(static_cast<int>(column), widths[column]);
     widthsFitted_ = grid_->rowCount() > 0;

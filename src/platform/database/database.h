@@ -54,6 +54,9 @@ class Database {
     /// column, 3075 for a broken text. Row order is table order unless the text orders otherwise.
     Recordset OpenRecordset(std::string_view source);
 
+    /// Number of rows of a table, without opening them. RuntimeError 3078.
+    int RecordCount(std::string_view table);
+
     /// Removes all rows of a table.
     void DeleteAllRows(std::string_view table);
 

@@ -142,6 +142,14 @@ void Database::AppendRows(std::string_view table, const std::vector<jet::Row>& r
     }
 }
 
+int Database::RecordCount(std::string_view table) {
+    engine_->CheckOpen();
+    const auto stored = engine_->Loaded(table, error_number::TableNotFound);
+    Statement count(engine_->database, "SELECT count(*) FROM t" + std::to_string(stored->number));
+    count.Step();
+    return static_cast<int>(count.Whole(0));
+}
+
 void Database::DeleteAllRows(std::string_view table) {
     engine_->CheckWritable();
     engine_->DeleteAllRows(*engine_->Need(table, error_number::TableNotFound));
