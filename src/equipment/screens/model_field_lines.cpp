@@ -19,7 +19,7 @@ constexpr int memoLines = 3;
 constexpr int figureWidth = 8;  // characters that a field shows at least
 constexpr int shortWidth = 9;   // of two texts side by side
 constexpr int textWidth = 20;
-constexpr int longTextWidth = 36;  // of descriptions and file names
+constexpr int longTextWidth = 34;  // of descriptions and file names
 constexpr const char* pricePrompt = "Please Enter the Model Cost:";  // of cost and price alike
 
 struct Style {
