@@ -119,7 +119,8 @@ check() {
     done
 }
 
-# offered HOME: the next start or open must offer a working copy that was left, and open it.
+# offered HOME: the next start or open must offer a working copy that was left, and open it; what a write left half
+# done is gone then.
 offered() {
     local name stem said=$1.said
     {
@@ -135,6 +136,7 @@ offered() {
     } >"$1.drive"
     "$driver" --no-start --home "$1" --today 1998-05-09 "$1.drive" >"$said" 2>/dev/null ||
         { echo "what was left can't be opened:"; grep -F '"ok":false' "$said" | cut -c1-300; }
+    find "$1" -name '.tendo-*' -printf 'the next start and open left %P\n'
 }
 
 # point SCENE CALL NUMBER: one kill and its inspection.
