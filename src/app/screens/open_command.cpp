@@ -35,6 +35,13 @@ bool IsOwnTempFile() {
            CanonicalPath(State().ProjectFileName) == CanonicalPath(TempFileBeside());
 }
 
+/// A database holds two gigabytes at most; what is longer is no project and isn't copied first.
+void CheckLength(const std::string& fileName) {
+    constexpr std::uint64_t longestDatabase = std::uint64_t{2} << 30;
+    if (FileLength(fileName) > longestDatabase)
+        throw RuntimeError(error_number::OutOfMemory, fileName + " is too large for a project.");
+}
+
 std::string OwnTempFileText() {
     return BaseName(State().ProjectFileName) +
            " is the working copy of a project.  Please open the project itself, or give the copy "
@@ -252,6 +259,7 @@ OpenCommand::Next OpenCommand::OpenBesideTempFile() {
 }
 
 void OpenCommand::OpenFromProjectFile() {
+    CheckLength(State().ProjectFileName);
     if (IsOwnTempFile()) throw RuntimeError(error_number::PathFileAccess, OwnTempFileText());
     ResetProjectData();
     MakeFileExtensions();

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <functional>
+#include <utility>
 
 #include "app/command_table.h"
 #include "app/screens/bar.h"
@@ -29,6 +31,11 @@ constexpr const char* untitledName = "UNTITLED.HID";
 
 void ShowCaption(const std::string& caption) {
     if (Form* main = Form::Find("frmMDI")) main->setWindowTitle(QString::fromStdString(caption));
+}
+
+void ShowNoProject() {
+    MainBar().DisableActiveBarTools();
+    ShowCaption("Quick Tendo");
 }
 
 bool IsUntitled() {
@@ -78,6 +85,27 @@ std::string AskProjectName() {
                     "specify the filename's extension, it must be \"tdo\".",
                     MessageIcon::Information);
     }
+}
+
+/// Writes what is worth no more than a message: a profile that can't be written must not stop an
+/// open or a close. The same failure is told once.
+void KeepInProfile(const std::function<void()>& write) {
+    static std::string told;
+    try {
+        write();
+    } catch (const RuntimeError& error) {
+        if (std::exchange(told, error.Description()) != error.Description())
+            ShowMessage("TENDO", error.Description(), MessageIcon::Critical);
+    }
+}
+
+void MakeUntitledProject() {
+    State().ProjectFileName = State().ProjectsDirectory + "Untitled.hid";
+    MakeFileExtensions();
+    CopyAutoloadProject();
+    SaveWorkFile();
+    CopyFileOver(State().WorkFileName, State().ProjectFileName);
+    RememberProjectFile();
 }
 
 void SaveUnderName(const std::string& fileName) {
@@ -156,7 +184,7 @@ void BuildRecentFilesMenu() {
 }
 
 void AddRecentFile() {
-    AddToRecentFiles(State().ProjectFileName);
+    KeepInProfile([] { AddToRecentFiles(State().ProjectFileName); });
     BuildRecentFilesMenu();
 }
 
@@ -164,8 +192,8 @@ void WriteLastOpened() {
     // Capitals never equal small letters, so the value is always empty: meant, no project opens by
     // itself.
     const bool named = UpperCase(LastCharacters(State().ProjectFileName, 4)) == ".tdw";
-    Ini().MyWriteAppProfileString("RecentFiles", "LastOpened",
-                                  named ? State().ProjectFileName : std::string());
+    const std::string name = named ? State().ProjectFileName : std::string();
+    KeepInProfile([&] { Ini().MyWriteAppProfileString("RecentFiles", "LastOpened", name); });
 }
 
 void mnuFileNew_Click() {
@@ -173,12 +201,12 @@ void mnuFileNew_Click() {
     CloseProjectWindows();
     if (!LeaveOpenProject()) return NormalPointer();
     ImportFileName().clear();
-    State().ProjectFileName = State().ProjectsDirectory + "Untitled.hid";
-    MakeFileExtensions();
-    CopyAutoloadProject();
-    SaveWorkFile();
-    CopyFileOver(State().WorkFileName, State().ProjectFileName);
-    RememberProjectFile();
+    try {
+        MakeUntitledProject();
+    } catch (const RuntimeError&) {
+        ShowNoProject();  // the old project is closed, the new one couldn't be made
+        throw;
+    }
     State().ProjectIsOpen = true;
     State().ProjectChanged = false;
     ShowProjectCaption();
@@ -191,8 +219,7 @@ void mnuFileNew_Click() {
 void mnuFileClose_Click() {
     CheckSaveOnClose();
     CloseProjectWindows();
-    MainBar().DisableActiveBarTools();
-    ShowCaption("Quick Tendo");
+    ShowNoProject();
     WriteLastOpened();
 }
 

@@ -1,6 +1,9 @@
+#include <sys/stat.h>
+
 #include <QMdiArea>
 #include <QScreen>
 
+#include "platform/files/ini_file_handler.h"
 #include "platform/files/safe_file.h"
 #include "project/project_file.h"
 #include "project/project_records.h"
@@ -86,6 +89,63 @@ TEST_F(BadInput, ADirectoryIsRefused) {
     DropFiles({Place("folder.tdw")});
     EXPECT_EQ(dialogs->messages.size(), 3U);  // the drop's two boxes
     ExpectFiles(1);
+}
+
+TEST_F(BadInput, APipeIsRefusedWithoutWaitingForIt) {
+    StartProgramWithoutJobs();
+    ASSERT_EQ(::mkfifo(Place("pipe.tdw").c_str(), 0600), 0);
+    dialogs->files = {Place("pipe.tdw")};
+    ActiveBarClick("ToolOpen");
+    EXPECT_TRUE(Saw("Project File Open Error "));
+    dialogs->messages.clear();
+    DropFiles({Place("pipe.tdw")});
+    EXPECT_EQ(dialogs->messages.size(), 2U);
+    EXPECT_FALSE(State().ProjectIsOpen);
+    ExpectFiles(1);
+}
+
+TEST_F(BadInput, AFileTooLongForADatabaseIsRefusedBeforeItIsCopied) {
+    StartProgramWithoutJobs();
+    Write("Projects/movie.tdw", "");
+    fs::resize_file(Place("movie.tdw"), std::uintmax_t{3} << 30);  // no room is taken for it
+    dialogs->files = {Place("movie.tdw")};
+    ActiveBarClick("ToolOpen");
+    EXPECT_TRUE(Saw("Project File Open Error 7"));
+    DropFiles({Place("movie.tdw")});
+    EXPECT_TRUE(Saw("movie.tdw is too large for a project."));
+    ExpectFiles(1);
+}
+
+TEST_F(BadInput, ANameWithALineBreakOpensAndBreaksNoProfile) {
+    StartProgramWithoutJobs();
+    Write("Projects/two\nLastOpened=x\n[Options].tdw", ProjectBytes());
+    dialogs->files = {Place("two\nLastOpened=x\n[Options].tdw")};
+    ActiveBarClick("ToolOpen");
+    EXPECT_TRUE(State().ProjectIsOpen);
+    EXPECT_TRUE(dialogs->messages.empty());
+    ActiveBarClick("ToolClose");
+    EXPECT_EQ(Ini().MyGetAppProfileString("RecentFiles", "LastOpened", ""), "");
+}
+
+TEST_F(BadInput, DroppedFilesOfOtherKindsDoNothing) {
+    StartProgramWithoutJobs();
+    Write("photo.png", std::string("\x89PNG\r\n\x1a\n", 8));
+    Write("letter.doc", "Dear Ms Marlow");
+    Write("noname", "");
+    for (const char* name : {"photo.png", "letter.doc", "noname", "Projects", "none"})
+        DropFiles({directory + name});
+    DropFiles({});
+    EXPECT_TRUE(dialogs->messages.empty());
+    EXPECT_TRUE(dialogs->fileDialogs.empty());
+    EXPECT_EQ(Caption(), "Quick Tendo");
+}
+
+TEST_F(BadInput, ADroppedNameThatHoldsTheExtensionInTheMiddleAsksForAFile) {
+    StartProgramWithoutJobs();
+    Write("job.tdw.txt", "x");
+    DropFiles({directory + "job.tdw.txt"});
+    EXPECT_EQ(dialogs->fileDialogs.size(), 1U);
+    EXPECT_FALSE(State().ProjectIsOpen);
 }
 
 TEST_F(BadInput, ADroppedFileThatIsNoProjectTellsItsFault) {
@@ -174,6 +234,44 @@ TEST_F(BadInput, ABrokenProfileGivesDefaults) {
     EXPECT_NE(Read("Tendo.ini").find("NumberOfPreviousProjectsOnFileMenu=-99999"),
               std::string::npos);
     EXPECT_GE(Read("Tendo.ini").size(), 300000U);
+}
+
+TEST_F(BadInput, AnIntervalThatIsNoNumberSavesAtEachTickAndAHugeOneNever) {
+    StartProgram();
+    ActiveBarClick("ToolNew");
+    struct Row {
+        const char* interval;
+        int counter;  // after one tick
+    };
+    const Row rows[] = {{"often", 0}, {"-7", 0}, {"", 0}, {"1e30", 1}, {"99999999999999999999", 1}};
+    for (const Row& row : rows) {
+        Write("Tendo.ini", std::string("[Options]\nAutoSave=1\nAutoSaveInterval=") + row.interval);
+        State().AutosaveCounter = 0;
+        TickTimer("tmrAutoSave");
+        EXPECT_EQ(State().AutosaveCounter, row.counter) << row.interval;
+    }
+    EXPECT_TRUE(dialogs->messages.empty());
+}
+
+TEST_F(BadInput, AProfileThatCannotBeWrittenIsToldOnceAndStopsNothing) {
+    Write("Tendo.ini", "[Options]\nOpenLastProject=0\n");
+    StartProgram();
+    Write("Projects/Job.tdw", ProjectBytes());
+    fs::permissions(home / "Tendo.ini", fs::perms::owner_read);
+    for (int i = 0; i < 2; ++i) {
+        dialogs->files = {Place("Job.tdw")};
+        ActiveBarClick("ToolOpen");
+        EXPECT_EQ(Caption(), "Tendo - JOB.TDW");
+        EXPECT_TRUE(FindTool("ToolSave")->enabled);
+        EXPECT_NE(Form::Find("frmGPD"), nullptr);
+        ActiveBarClick("ToolSave");
+        ActiveBarClick("ToolClose");
+    }
+    ASSERT_EQ(dialogs->messages.size(), 1U) << dialogs->messages.back().text;
+    EXPECT_NE(dialogs->messages[0].text.find("Tendo.ini\": the file is read-only."),
+              std::string::npos);
+    EXPECT_TRUE(QuitTendo());
+    EXPECT_EQ(Read("Tendo.ini"), "[Options]\nOpenLastProject=0\n");
 }
 
 TEST_F(BadInput, AGarbledToolbarLayoutGivesTheUsualOne) {

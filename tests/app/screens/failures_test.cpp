@@ -339,6 +339,53 @@ TEST_F(Failures, AnAutosaveOnAFullDiskTellsAndTheWorkFileStays) {
     ExpectTheNextSaveToWork();
 }
 
+TEST_F(Failures, ANewProjectThatCannotBeMadeLeavesNoneOpenAndItsToolsDisabled) {
+    dialogs->answers = {Answer::No};
+    SystemCalls().write = [](int, const void*, size_t) -> ssize_t {
+        errno = ENOSPC;
+        return -1;
+    };
+    ActiveBarClick("ToolNew");
+    EXPECT_TRUE(Saw("the disk is full"));
+    EXPECT_FALSE(State().ProjectIsOpen);
+    EXPECT_FALSE(FindTool("ToolSave")->enabled);
+    EXPECT_EQ(Caption(), "Quick Tendo");
+    ExpectUserFileAsItWas();
+    SystemCalls() = SystemCallTable();
+    ActiveBarClick("ToolNew");
+    EXPECT_EQ(Caption(), "Tendo - (UNTITLED)");
+}
+
+TEST_F(Failures, AnOpenInAReadOnlyFolderTellsItsNumberAndLeavesTheFile) {
+    dialogs->answers = {Answer::No};
+    ActiveBarClick("ToolClose");
+    SystemCalls().open = [](const char* path, int flags, mode_t mode) {
+        if ((flags & O_CREAT) == 0) return ::open(path, flags, mode);
+        errno = EROFS;
+        return -1;
+    };
+    dialogs->files = {Place("Job.tdw")};
+    dialogs->messages.clear();
+    ActiveBarClick("ToolOpen");
+    EXPECT_TRUE(Saw("Project File Open Error 70"));
+    EXPECT_TRUE(Saw("Location = 11"));
+    EXPECT_FALSE(State().ProjectIsOpen);
+    ExpectUserFileAsItWas();
+}
+
+TEST_F(Failures, ASaveAsOnAFullDiskSavesNothingAndKeepsTheName) {
+    SystemCalls().write = [](int, const void*, size_t) -> ssize_t {
+        errno = ENOSPC;
+        return -1;
+    };
+    dialogs->files = {Place("Second.tdw")};
+    ActiveBarClick("ToolSaveAs");
+    ExpectOneBox("An error occured while trying to save your project.  No file was saved.");
+    EXPECT_EQ(State().ProjectFileName, Place("Job.tdw"));
+    EXPECT_FALSE(Exists("Projects/Second.tdw"));
+    ExpectTheNextSaveToWork();
+}
+
 TEST_F(Failures, AnOpenThatFailsLeavesTheOpenProjectWhole) {
     dialogs->answers = {Answer::Cancel};
     Write("Projects/Broken.tdw", "no database");
