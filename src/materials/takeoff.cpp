@@ -29,8 +29,8 @@ const ViewPlan& PlanOf(TakeoffView view) {
 
 }  // namespace
 
-Takeoff::Takeoff(std::vector<MaterialRow>& catalogue, std::string caption)
-    : catalogue_(catalogue), caption_(std::move(caption)) {
+Takeoff::Takeoff(std::vector<MaterialRow>& catalogue, std::string caption, bool keepsTitle)
+    : catalogue_(catalogue), caption_(std::move(caption)), keepsTitle_(keepsTitle) {
     Reset();
 }
 
@@ -165,8 +165,9 @@ void Takeoff::ShowCount() {
 
 void Takeoff::ShowPosition() {
     if (Count() == 0) return;
-    SetTitle(caption_ + PlanOf(view_).positionTitle + std::to_string(Position() + 1) + " of " +
-             std::to_string(Count()) + " Materials");
+    const ViewPlan& plan = PlanOf(view_);
+    SetTitle(caption_ + (keepsTitle_ ? plan.countTitle : plan.positionTitle) +
+             std::to_string(Position() + 1) + " of " + std::to_string(Count()) + " Materials");
 }
 
 void Takeoff::SetTitle(std::string title) {

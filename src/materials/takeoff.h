@@ -21,8 +21,9 @@ class Takeoff {
     static constexpr int PageRows = 15;
     static constexpr int SelectedRows = 100;  // a selected view shows no more
 
-    /// `caption` begins every title ("Select Material Costs"). The catalogue isn't owned.
-    Takeoff(std::vector<MaterialRow>& catalogue, std::string caption);
+    /// `caption` begins every title ("Select Material Costs"); `keepsTitle`: the titles while the
+    /// user moves through the rows are spelled as those of the views. The catalogue isn't owned.
+    Takeoff(std::vector<MaterialRow>& catalogue, std::string caption, bool keepsTitle = false);
 
     /// Called when lines of the page were filled anew.
     std::function<void()> PageFilled;
@@ -94,6 +95,7 @@ class Takeoff {
 
     std::vector<MaterialRow>& catalogue_;
     std::string caption_;
+    bool keepsTitle_;
     TakeoffView view_ = TakeoffView::All;
     std::vector<MaterialRow> selected_;
     std::vector<std::int32_t> places_;  // of the selected rows in the catalogue

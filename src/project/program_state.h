@@ -43,6 +43,7 @@ struct ProgramState {
     std::int32_t AutosaveCounter = 0;
     bool MaterialDatabaseLoaded = false;
     bool MaterialDatabaseHeld = false;  // a screen holds the material database open
+    bool MaterialListEditorIsOpen = false;
 
     int SystemNumber = 0;  // the current system, 0 to 4
 

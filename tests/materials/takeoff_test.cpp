@@ -84,6 +84,16 @@ TEST_F(TakeoffTest, EachViewHasItsTitles) {
     }
 }
 
+TEST_F(TakeoffTest, TheTitlesOfAListAreSpelledAlikeWhileTheUserMoves) {
+    Takeoff list(book, "List", true);
+    Select(7, 3, true);
+    Select(9, 1, true);
+    list.Show(TakeoffView::Accessories);
+    EXPECT_EQ(list.Title(), "List - Viewing Selected Accessories- 2 Selected");
+    list.SetCurrentRow(1);
+    EXPECT_EQ(list.Title(), "List - Viewing Selected Accessories- 2 of 2 Materials");
+}
+
 TEST_F(TakeoffTest, AViewTakesTheRowsOfItsKindAndBlanksTheRest) {
     Select(7, 3);
     Select(9, 1, true);

@@ -129,7 +129,8 @@ auto FindIn(const Table& table, const std::string& name) -> decltype(std::begin(
 
 /// The price book can be edited or taken off from, not both at once.
 bool MaterialDatabaseIsFree(const ScreenProcedure& procedure) {
-    if (!State().MaterialDatabaseHeld || Form::Find(procedure.screen)) return true;
+    const bool held = State().MaterialDatabaseHeld || State().MaterialListEditorIsOpen;
+    if (!held || Form::Find(procedure.screen)) return true;
     ShowMessage("Database already open elsewhere",
                 "You will not be able to open the Materials database, as it is already open in "
                 "another screen.  You can only open the database to edit or open the database to "

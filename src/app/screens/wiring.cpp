@@ -44,6 +44,8 @@ void EnterScreens() {
     RegisterScreen("frmMatCosts", Make<frmMatCosts>);
     RegisterScreen("frmLaborCosts", Make<frmLaborCosts>);
     RegisterScreen("frmFootnotes", Make<frmFootnotes>);
+    RegisterScreen("frmListAddDelete",
+                   []() -> Form* { return new frmListAddDelete(ListKind::Material); });
     RegisterScreen("frmAbout", MakeAboutForm);
     RegisterScreen("frmTip", Make<frmTip>);
     RegisterScreen("frmStatus", Make<frmStatus>);
@@ -85,6 +87,8 @@ void WireRooms() {
     CatalogueHooks().Message = [](const std::string& text) { ShowMessage("TENDO", text); };
     CatalogueHooks().EnableTool = [](const std::string& tool) { MainBar().SetEnabled(tool, true); };
     RegisterProcedure("mnuFilePreview_Click", ShowPreview);
+    RegisterProcedure("mnuProjectMaterialLists_Click",
+                      [] { ShowListAddDelete(ListKind::Material); });
     RegisterProcedure("mnuProjectLaborLists_Click", [] { ShowListAddDelete(ListKind::Labor); });
     HooksOfDatabases().JetThreeKept = [](const std::string& file, const std::string& keptAs) {
         ShowMessage("TENDO",

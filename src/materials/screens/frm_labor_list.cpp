@@ -20,8 +20,8 @@ constexpr int nameWidth = 30;  // characters
 
 }  // namespace
 
-frmLaborList::frmLaborList(const std::string& name)
-    : LaborScreen("frmLaborList", "Labor List for All Systems", LaborListEdit()) {
+frmLaborList::frmLaborList(const std::string& name, bool isNew)
+    : LaborScreen("frmLaborList", "Labor List for All Systems", LaborListEdit()), changed_(isNew) {
     AddName(name);
     QPushButton* copy = AddButton("btnCopyProjectLabor", "Copy the &project's labor",
                                   [this] { btnCopyProjectLabor_Click(); });
@@ -75,10 +75,9 @@ void frmLaborList::btnCopyProjectLabor_Click() {
 }
 
 bool frmLaborList::QueryUnload() {
-    if (!changed_ ||
-        Ask("TENDO", "Do you want to save this Labor List?", Buttons::YesNo) == Answer::No)
-        return true;
-    return Save();
+    if (!changed_) return true;
+    const Answer answer = Ask("TENDO", "Do you want to save this Labor List?", Buttons::YesNo);
+    return answer == Answer::Yes ? Save() : answer == Answer::No;
 }
 
 void frmLaborList::FormUnload() {
@@ -88,9 +87,9 @@ void frmLaborList::FormUnload() {
 Form* MakeLaborListEditor(const std::string& name, bool isNew) {
     if (isNew)
         ClearLaborListEdit();
-    else
-        LoadLaborListForEdit(name);
-    return new frmLaborList(name);
+    else if (!LoadLaborListForEdit(name) && LaborListEdit().front().QtyHrs == 0)
+        return nullptr;  // one that is merely too long opens with the lines that there is room for
+    return new frmLaborList(name, isNew);
 }
 
 }  // namespace tendo

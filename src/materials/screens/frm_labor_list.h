@@ -14,7 +14,7 @@ class TextField;
 class frmLaborList : public LaborScreen {
     Q_OBJECT
   public:
-    explicit frmLaborList(const std::string& name);
+    frmLaborList(const std::string& name, bool isNew);
 
   protected:
     void ReadList(const std::string& name) override;
@@ -30,10 +30,11 @@ class frmLaborList : public LaborScreen {
     void btnCopyProjectLabor_Click();
 
     TextField* txtListName_ = nullptr;
-    bool changed_ = false;
+    bool changed_;  // since it was read or saved; a new list is from the start
 };
 
-/// Loads the editor with a list, or empty for a new one; it isn't shown yet.
+/// The editor of a list, or an empty one for a new list, not shown yet; nullptr, after a message,
+/// when the list can't be read.
 Form* MakeLaborListEditor(const std::string& name, bool isNew);
 
 }  // namespace tendo

@@ -9,6 +9,7 @@
 #include "materials/labor_lists.h"
 #include "materials/material_lists.h"
 #include "materials/screens/frm_labor_list.h"
+#include "materials/screens/frm_mat_list.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
 #include "platform/text/text.h"
@@ -53,7 +54,8 @@ void Hide(Form* form) {
 
 /// The editor of a list, not shown yet; nullptr when it refused.
 Form* MakeEditor(ListKind kind, const std::string& name, bool isNew) {
-    return kind == ListKind::Material ? nullptr : MakeLaborListEditor(name, isNew);
+    return kind == ListKind::Material ? MakeMaterialListEditor(name, isNew)
+                                      : MakeLaborListEditor(name, isNew);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "materials/material_catalogue.h"
 #include "materials/material_lists.h"
 #include "materials/screens/frm_edit_materials.h"
+#include "materials/screens/frm_list_add_delete.h"
 #include "materials/screens/takeoff_page.h"
 #include "materials/takeoff_sums.h"
 #include "platform/files/paths.h"
@@ -87,6 +88,9 @@ frmMatCosts::frmMatCosts() : Form("frmMatCosts", caption, Place::Child, "frmMatC
         lists_->setCurrentText(noList);
     });
     connect(txtDatabase_, &QLineEdit::textChanged, this, &frmMatCosts::DatabaseChanged);
+    connect(&NewsOfLists(), &ListNews::Changed, this, [this](ListKind kind) {
+        if (kind == ListKind::Material) FillLists();
+    });
     txtDatabase_->setText(Q(State().MaterialDatabaseName));
 }
 

@@ -49,8 +49,8 @@ QString Money(double value) {
 }  // namespace
 
 TakeoffPage::TakeoffPage(std::vector<MaterialRow>& catalogue, const std::string& caption,
-                         QWidget* parent)
-    : QWidget(parent), takeoff_(catalogue, caption), searchText_(NoSearch) {
+                         QWidget* parent, bool keepsTitle)
+    : QWidget(parent), takeoff_(catalogue, caption, keepsTitle), searchText_(NoSearch) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(10);

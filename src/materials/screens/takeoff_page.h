@@ -20,8 +20,9 @@ namespace tendo {
 class TakeoffPage : public QWidget {
     Q_OBJECT
   public:
-    /// `caption` begins the titles; the catalogue isn't owned.
-    TakeoffPage(std::vector<MaterialRow>& catalogue, const std::string& caption, QWidget* parent);
+    /// `caption` begins the titles, and `keepsTitle` is as in Takeoff; the catalogue isn't owned.
+    TakeoffPage(std::vector<MaterialRow>& catalogue, const std::string& caption, QWidget* parent,
+                bool keepsTitle = false);
     ~TakeoffPage() override;
 
     Takeoff& Rows() { return takeoff_; }

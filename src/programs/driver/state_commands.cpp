@@ -32,6 +32,7 @@ const StateEntry stateEntries[] = {
     {.name = "OpenNamedFile", .flag = &ProgramState::OpenNamedFile},
     {.name = "MaterialDatabaseLoaded", .flag = &ProgramState::MaterialDatabaseLoaded},
     {.name = "MaterialDatabaseHeld", .flag = &ProgramState::MaterialDatabaseHeld},
+    {.name = "MaterialListEditorIsOpen", .flag = &ProgramState::MaterialListEditorIsOpen},
     {.name = "SystemNumber", .number = &ProgramState::SystemNumber},
     {.name = "AutosaveCounter", .number = &ProgramState::AutosaveCounter},
     {.name = "ProjectFileName", .text = &ProgramState::ProjectFileName},
