@@ -222,6 +222,7 @@ void frmMatCosts::OpenNeighbour(const QString& screen) {
     StoreFields();
     if (screen == "frmEditMaterials")
         return ShowEditMaterials("Return to Material Costs", RefillMaterialTakeoff);
+    if (screen == "frmListAddDelete") return ShowListAddDelete(ListKind::Material);
     if (PricingScreens().ShowScreen) PricingScreens().ShowScreen(screen);
 }
 
