@@ -219,7 +219,7 @@ void OpenCommand::ChooseFile() {
                                  .filter = "TENDO File (*.TDW)|*.TDW",
                                  .fileName = "*.TDW",
                                  .folder = State().ProjectsDirectory,
-                                 .defaultExtension = ""})
+                                 .defaultExtension = "tdw"})
                           .value_or(oldName_);
     }
     step_ = 6;

@@ -96,6 +96,21 @@ TEST_F(RealDialogs, AFileDialogBeginsInItsFolderWithItsFilter) {
     EXPECT_EQ(chosen, Place("Job.tdw"));
 }
 
+TEST_F(RealDialogs, ATypedNameWithoutAPointGetsTheExtension) {
+    Write("Projects/Job.tdw", "x");
+    WhenShown<QFileDialog>([](QFileDialog* box) {
+        box->findChild<QLineEdit*>("fileNameEdit")->setText("Job");
+        QMetaObject::invokeMethod(box, "accept");
+    });
+    EXPECT_EQ(service->File({.kind = FileDialog::Kind::Open,
+                             .title = "Open",
+                             .filter = "TENDO File (*.TDW)|*.TDW",
+                             .fileName = "*.TDW",
+                             .folder = directory + "Projects/",
+                             .defaultExtension = "tdw"}),
+              Place("Job.tdw"));
+}
+
 TEST_F(RealDialogs, ADriveThatIsUnknownHereLeavesTheFolderToTheUser) {
     WhenShown<QFileDialog>([](QFileDialog* box) {
         EXPECT_EQ(box->directory().absolutePath(), QDir::homePath());

@@ -1,8 +1,10 @@
 #include <QLabel>
 #include <QRadioButton>
+#include <QTimer>
 
 #include "app/screens/pointer.h"
 #include "platform/files/ini_file_handler.h"
+#include "platform/files/system_calls.h"
 #include "project/project_lifecycle.h"
 #include "project/project_records.h"
 #include "running_program.h"
@@ -76,6 +78,8 @@ TEST_F(LifeCycle, SaveOfAnUntitledProjectRunsSaveAsAndACancelSavesNothing) {
     ASSERT_EQ(dialogs->fileDialogs.size(), 1U);
     EXPECT_EQ(dialogs->fileDialogs[0].kind, FileDialog::Kind::Save);
     EXPECT_EQ(dialogs->fileDialogs[0].fileName, "*.tdw");
+    EXPECT_EQ(dialogs->fileDialogs[0].defaultExtension, "tdw");
+    EXPECT_TRUE(dialogs->fileDialogs[0].promptOnOverwrite);
     EXPECT_EQ(Caption(), "Tendo - (UNTITLED)");
     // A cancelled Save As of an untitled project still enters its name in the recent list.
     EXPECT_EQ(RecentFiles().front(), Place("Untitled.hid"));
@@ -375,6 +379,75 @@ TEST_F(LifeCycle, AutosaveCountsTicksUpToItsInterval) {
     TickTimer("tmrAutoSave");
     EXPECT_EQ(State().AutosaveCounter, 0);
     EXPECT_EQ(Form::Find("frmMDI")->findChild<QLabel*>("StatusBarPanel2")->text(), "");
+}
+
+TEST_F(LifeCycle, ThePanelTellsOfTheAutosaveWhileItWrites) {
+    StartProgram();
+    ActiveBarClick("ToolNew");
+    Ini().MyWriteAppProfileString("Options", "AutoSave", "1");
+    Ini().MyWriteAppProfileString("Options", "AutoSaveInterval", "1");
+    static QString seen;
+    SystemCalls().write = [](int file, const void* bytes, size_t size) {
+        seen = Form::Find("frmMDI")->findChild<QLabel*>("StatusBarPanel2")->text();
+        return ::write(file, bytes, size);
+    };
+    TickTimer("tmrAutoSave");
+    SystemCalls() = SystemCallTable();
+    EXPECT_EQ(seen, "Autosaving...");
+    EXPECT_EQ(Form::Find("frmMDI")->findChild<QLabel*>("StatusBarPanel2")->text(), "");
+    EXPECT_EQ(Form::Find("frmMDI")->findChild<QTimer*>("tmrAutoSave")->interval(), 65535);
+    EXPECT_TRUE(Form::Find("frmMDI")->findChild<QTimer*>("tmrAutoSave")->isActive());
+}
+
+TEST_F(LifeCycle, ClosingTheProjectsWindowsLeavesThePrintFormAndTheExplorer) {
+    StartProgram();
+    for (const char* name : {"frmPrint", "frmExplorer", "frmOther"})
+        (new Form(name, name, Form::Place::Child))->ShowForm();
+    ActiveBarClick("ToolNew");
+    EXPECT_EQ(Form::Find("frmOther"), nullptr);
+    for (const char* name : {"frmPrint", "frmExplorer", "frmMDI", "frmGPD"})
+        EXPECT_NE(Form::Find(name), nullptr) << name;
+}
+
+TEST_F(LifeCycle, ANewProjectAfterYesSavesTheOldOne) {
+    StartProgram();
+    MakeProject("Maple.tdw");
+    dialogs->files = {Place("Maple.tdw")};
+    ActiveBarClick("ToolOpen");
+    const std::string saved = Read("Projects/Maple.tdw");
+    ActiveBarClick("ToolCloseAllProjectWindows");
+    Project().GPDProjectFormat.Title = "Kept by the yes";
+    State().ProjectChanged = true;
+    dialogs->answers = {Answer::Yes};
+    ActiveBarClick("ToolNew");
+    EXPECT_FALSE(Read("Projects/Maple.tdw") == saved);
+    EXPECT_FALSE(Exists("Projects/Maple.tmp"));
+    EXPECT_EQ(Caption(), "Tendo - (UNTITLED)");
+    EXPECT_EQ(Project().GPDProjectFormat.Title.Trimmed(), "");
+}
+
+TEST_F(LifeCycle, AnAutoloadProjectThatCannotBeReadIsToldAndOpensNothing) {
+    Write("Projects/AUTOLOAD.TDW", "no database");
+    Write("Tendo.ini", "[Options]\nNewProjectsCopyAutoload=1\n");
+    StartProgram();
+    ActiveBarClick("ToolNew");
+    ASSERT_EQ(dialogs->messages.size(), 1U);
+    EXPECT_NE(dialogs->messages[0].text.find("AUTOLOAD.TDW"), std::string::npos);
+    EXPECT_FALSE(State().ProjectIsOpen);
+    EXPECT_FALSE(FindTool("ToolSave")->enabled);
+    EXPECT_EQ(Read("Projects/AUTOLOAD.TDW"), "no database");
+    EXPECT_FALSE(Exists("Projects/Untitled.tmp"));
+}
+
+TEST_F(LifeCycle, ACancelledExitHasStoredThePlaceAndAnEmptyLastProjectAllTheSame) {
+    StartProgram();
+    ActiveBarClick("ToolNew");
+    State().ProjectChanged = true;
+    dialogs->answers = {Answer::Cancel};
+    EXPECT_FALSE(QuitTendo());
+    EXPECT_NE(Ini().MyGetAppProfileString("MDIForm", "WindowState", "missing"), "missing");
+    EXPECT_EQ(Ini().MyGetAppProfileString("RecentFiles", "LastOpened", "missing"), "");
+    EXPECT_EQ(Form::Find("frmGPD"), nullptr);
 }
 
 TEST_F(LifeCycle, CancelInExitsQuestionKeepsTheProgram) {

@@ -8,6 +8,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QToolBar>
+#include <filesystem>
 
 #include "app/screens/bar.h"
 #include "app/screens/command_dispatch.h"
@@ -380,6 +381,54 @@ TEST_F(MainWindow, TheTitleOfAScreensWindowFollowsTheScreen) {
     EXPECT_EQ(form->SubWindow()->windowTitle(), "General Project Data");
     form->setWindowTitle("Another");
     EXPECT_EQ(form->SubWindow()->windowTitle(), "Another");
+}
+
+TEST_F(MainWindow, WithoutAMaterialDatabaseExportAndImportEndAfterTheirFirstBox) {
+    std::filesystem::remove(home / "tendo.mdb");
+    for (const char* tool : {"ToolExportTendoDatabaseToDisk", "ToolImportTendoDatabaseFromDisk"}) {
+        dialogs->messages.clear();
+        ActiveBarClick(tool);
+        EXPECT_EQ(dialogs->messages.size(), 1U) << tool;
+    }
+    EXPECT_TRUE(dialogs->fileDialogs.empty());
+}
+
+TEST_F(MainWindow, AnImportOverAFileThatCannotBeWrittenTellsTheNumber) {
+    Write("tendo.mdb", "old book");
+    Write("floppy.bkt", "new book");
+    std::filesystem::permissions(home / "tendo.mdb", std::filesystem::perms::owner_read);
+    dialogs->files = {directory + "floppy.bkt"};
+    ActiveBarClick("ToolImportTendoDatabaseFromDisk");
+    EXPECT_TRUE(Saw("Import failed.  Error number 70."));
+    EXPECT_EQ(Read("tendo.mdb"), "old book");
+    std::filesystem::permissions(home / "tendo.mdb", std::filesystem::perms::owner_all);
+}
+
+TEST_F(MainWindow, APlaceIsTakenWhileItLiesInsideAndASizeWhileItFits) {
+    QWidget room;
+    room.resize(800, 600);
+    QWidget window(&room);
+    struct Row {
+        const char* stored;
+        QRect place;
+    };
+    const Row rows[] = {{"Left=50\nTop=60\nWidth=400\nHeight=300\n", {50, 60, 400, 300}},
+                        {"Left=0\nTop=0\n", {0, 0, 300, 200}},
+                        {"Left=799\nTop=599\n", {799, 599, 300, 200}},
+                        {"Left=800\nTop=600\n", {10, 20, 300, 200}},
+                        {"Left=-1\nTop=-1\n", {10, 20, 300, 200}},
+                        {"Left=70\n", {70, 20, 300, 200}},
+                        {"Width=800\nHeight=600\n", {10, 20, 800, 600}},
+                        {"Width=801\nHeight=601\n", {10, 20, 300, 200}},
+                        {"Width=0\nHeight=-5\n", {10, 20, 300, 200}},
+                        {"Left=x\nTop=\nWidth=wide\n", {10, 20, 300, 200}},
+                        {"", {10, 20, 300, 200}}};
+    for (const Row& row : rows) {
+        Write("Tendo.ini", std::string("[Some]\n") + row.stored);
+        window.setGeometry(10, 20, 300, 200);
+        Form::RestorePlacement(&window, "Some");
+        EXPECT_EQ(window.geometry(), row.place) << row.stored;
+    }
 }
 
 TEST_F(MainWindow, AMaximizedWindowKeepsTheSizeItHadWhenLastNormal) {
