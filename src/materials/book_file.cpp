@@ -91,7 +91,10 @@ void BookFile::Remember() {
 
 bool BookFile::ChangedElsewhere() const {
     const auto now = StampOf(Name());
-    return now && now != stamp_ && DigestOfBook(Name()) != digest_;
+    if (!now || now == stamp_ || now == harmless_) return false;
+    if (DigestOfBook(Name()) != digest_) return true;
+    harmless_ = now;
+    return false;
 }
 
 /// Lists, labor and footnotes may live in the same file.

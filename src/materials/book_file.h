@@ -34,7 +34,8 @@ class BookFile {
 
     Database database_;
     std::optional<FileStamp> stamp_;
-    std::optional<std::uint64_t> digest_;  // of the price book's own tables on disk
+    std::optional<std::uint64_t> digest_;        // of the price book's own tables on disk
+    mutable std::optional<FileStamp> harmless_;  // changed elsewhere, but not the price book
 };
 
 }  // namespace tendo

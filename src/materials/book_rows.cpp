@@ -17,10 +17,21 @@ const BookColumn& ColumnAt(int column) {
     return BookColumns.at(static_cast<std::size_t>(column));
 }
 
+/// Nothing for null and for what is no cost: files of others may hold an infinity or a text there.
+std::optional<float> StoredCost(const Recordset& rows, const char* field) {
+    if (rows.IsNull(field)) return std::nullopt;
+    try {
+        const float cost = rows.Single(field);
+        return std::isfinite(cost) ? std::optional(cost) : std::nullopt;
+    } catch (const RuntimeError&) {
+        return std::nullopt;
+    }
+}
+
 std::string TextOfCell(const Recordset& rows, const BookColumn& column) {
-    if (rows.IsNull(column.field)) return "";
-    if (column.money) return FormatNumber(rows.Single(column.field), MoneyPicture);
-    return rows.Text(column.field);
+    if (!column.money) return rows.Text(column.field);
+    const auto cost = StoredCost(rows, column.field);
+    return cost ? FormatNumber(*cost, MoneyPicture) : rows.Text(column.field);
 }
 
 }  // namespace
@@ -90,9 +101,9 @@ std::string BookRows::EditText(int row, int column) const {
     if (typed != typed_.end() && row == CurrentRow()) return typed->second;
     const int current = rows_->AbsolutePosition();
     rows_->MoveTo(row);
-    const float cost = rows_->Single(ColumnAt(column).field);
+    const auto cost = StoredCost(*rows_, ColumnAt(column).field);
     if (current >= 0) rows_->MoveTo(current);
-    return CostOfText(shown) == cost ? shown : PlainNumberText(cost);
+    return !cost || CostOfText(shown) == *cost ? shown : PlainNumberText(*cost);
 }
 
 void BookRows::SetCell(int column, const std::string& text) {

@@ -117,29 +117,28 @@ void PriceBook::SearchAgain(std::string_view searchText) {
 void PriceBook::MarkRow() {
     const int row = rows_.CurrentRow();
     if (row < 0 || !LeaveRow()) return;
-    marks_.Add(rows_.BookmarkOf(row));
+    try {
+        marks_.Add(rows_.BookmarkOf(row));
+    } catch (const RuntimeError& error) {
+        if (error.Number() != error_number::OutOfStackSpace) throw;
+        return dialogs_.tell(
+            "You are trying to select too many materials at once.  Try selecting a smaller amount "
+            "of materials next time.");
+    }
     rows_.MoveTo(std::min(row + 1, rows_.Count() - 1));
     RowChanged();
 }
 
 bool PriceBook::GridKey(int keyCode, int column) {
-    try {
-        if (keyCode == F12Key) {
-            MarkRow();
-            return true;
-        }
-        marks_.Leave();
-        const bool clears =
-            column == CategoryColumn && (keyCode == DeleteKey || keyCode == BackspaceKeyCode);
-        if (clears) SetCell(column, "");
-        return clears;
-    } catch (const RuntimeError& error) {
-        if (error.Number() != error_number::OutOfStackSpace) throw;
-        dialogs_.tell(
-            "You are trying to select too many materials at once.  Try selecting a smaller amount "
-            "of materials next time.");
+    if (keyCode == F12Key) {
+        Guarded("DBGridMaterials_KeyDown", [this] { MarkRow(); });
         return true;
     }
+    marks_.Leave();
+    const bool clears =
+        column == CategoryColumn && (keyCode == DeleteKey || keyCode == BackspaceKeyCode);
+    if (clears) SetCell(column, "");
+    return clears;
 }
 
 bool PriceBook::IsMarked(int row) const {

@@ -38,10 +38,10 @@ class PriceBookTest : public testing::Test {
     static std::string OnDisk(const std::string& file, const std::string& table,
                               const std::string& column) {
         Database database = Database::OpenDatabase(file);
-        std::string texts;
+        std::vector<std::string> texts;
         for (Recordset rows = database.OpenRecordset(table); !rows.EOF_(); rows.MoveNext())
-            texts += (texts.empty() ? "" : "|") + rows.Text(column);
-        return texts;
+            texts.push_back(rows.Text(column));
+        return Joined(texts);
     }
     std::string OnDisk(const std::string& table, const std::string& column) const {
         return OnDisk(File(), table, column);

@@ -1,8 +1,14 @@
 #include "materials/price_book.h"
 
+#include <cmath>
+#include <limits>
+#include <span>
+
 #include "materials/material_catalogue.h"
 #include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 #include "platform/files/settings_store.h"
+#include "platform/jet/jet_writer.h"
 #include "platform/text/runtime_error.h"
 #include "price_book_fixture.h"
 
@@ -308,6 +314,43 @@ TEST_F(PriceBookTest, NullsAreShownEmptyAndKeepTheSelectedCategory) {
     EXPECT_TRUE(book.LeaveRow());
     EXPECT_EQ(book.Rows().CellText(1, ListCost), "$0.00");
     EXPECT_EQ(book.Rows().CellText(1, UnitCost), "");
+}
+
+TEST_F(PriceBookTest, CostsThatAreNoneInAFileOfOthersAreShownAndCanBeMended) {
+    Make({});
+    Database blank = Database::OpenDatabase(File());
+    const auto none = [](const std::function<void(std::span<const jet::ValueView>)>& add) {
+        for (const double cost : {std::numeric_limits<double>::infinity(), std::nan("")})
+            add(std::vector<jet::ValueView>{"A", cost, 2.0, "1", "Duct"});
+    };
+    ReplaceFile(
+        File(),
+        jet::WriteFile({{blank.Table("Materials"), none}, {blank.Table("Categories"), {}}}, 0));
+    ASSERT_TRUE(book.Open());
+    EXPECT_EQ(book.Rows().CellText(0, UnitCost), "1.#INF");
+    EXPECT_EQ(book.Rows().CellText(1, UnitCost), "");
+    EXPECT_EQ(book.Rows().EditText(0, UnitCost), "1.#INF");
+    EXPECT_TRUE(book.SetCell(UnitCost, "3"));
+    EXPECT_TRUE(book.MoveTo(1));
+    EXPECT_EQ(book.Rows().CellText(0, UnitCost), "$3.00");
+}
+
+TEST_F(PriceBookTest, CostsKeptAsTextAreShownAsTheyStand) {
+    Make({{"A", "1", "Duct", 1, 2}});
+    Database database = Database::OpenDatabase(File());
+    jet::TableDefinition materials = database.Table("Materials");
+    materials.columns[1] = materials.columns[0];
+    materials.columns[1].name = "UnitCst";
+    database.DeleteTable("Materials");
+    database.AppendTable(materials);
+    database.AppendRows("Materials", {{std::string("A"), std::string("call"), 2.0, std::string("1"),
+                                       std::string("Duct")}});
+    database.Close();
+    ASSERT_TRUE(book.Open());
+    EXPECT_EQ(book.Rows().CellText(0, UnitCost), "call");
+    EXPECT_TRUE(book.SetCell(Description, "B"));
+    EXPECT_TRUE(book.LeaveRow());
+    EXPECT_EQ(Column(Description), "B");
 }
 
 }  // namespace

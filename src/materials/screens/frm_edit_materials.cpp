@@ -1,11 +1,10 @@
 #include "materials/screens/frm_edit_materials.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -28,7 +27,8 @@ namespace tendo {
 namespace {
 
 constexpr const char* messageTitle = "TENDO";
-constexpr int writeDelay = 500;  // milliseconds between a change and its being on disk
+constexpr int writeDelay = 500;     // milliseconds between a change and its being on disk
+constexpr int lookInterval = 2000;  // milliseconds between looks at the file
 
 QString Q(const std::string& text) {
     return QString::fromStdString(text);
@@ -97,10 +97,9 @@ frmEditMaterials::frmEditMaterials()
     tmrWriteBook_.setSingleShot(true);
     tmrWriteBook_.setInterval(writeDelay);
     connect(&tmrWriteBook_, &QTimer::timeout, this, &frmEditMaterials::WriteNow);
-    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
-            [this](Qt::ApplicationState state) {
-                if (state == Qt::ApplicationActive) ReadAgainIfChanged();
-            });
+    tmrLookAtBook_.setObjectName("tmrLookAtBook");
+    connect(&tmrLookAtBook_, &QTimer::timeout, this, &frmEditMaterials::ReadAgainIfChanged);
+    tmrLookAtBook_.start(lookInterval);
     setFocusProxy(DBGridMaterials_);
     State().MaterialDatabaseHeld = true;
     const Hourglass hourglass;
@@ -116,13 +115,6 @@ QSize frmEditMaterials::sizeHint() const {
 void frmEditMaterials::ReturnTo(const QString& closeCaption, std::function<void()> closed) {
     btnClose_->setText(closeCaption);
     closed_ = std::move(closed);
-}
-
-void frmEditMaterials::showEvent(QShowEvent* event) {
-    Form::showEvent(event);
-    if (SubWindow())
-        connect(SubWindow(), &QMdiSubWindow::aboutToActivate, this,
-                &frmEditMaterials::ReadAgainIfChanged, Qt::UniqueConnection);
 }
 
 /// Everything but the grid's rows as the book has it.
@@ -171,6 +163,7 @@ void frmEditMaterials::ShowTexts() {
     setWindowTitle(Q(book_.Title()));
     DBLCategory_->setCurrentRow(book_.SelectedCategory());
     btnDeleteMaterial_->setText(book_.DeleteCaption());
+    btnDeleteMaterial_->setShortcut(QKeySequence("Alt+K"));  // a new text takes it away
     btnUndoDelete_->setEnabled(book_.CanUndo());
     DBGridMaterials_->viewport()->update();
     DBGridMaterials_->verticalHeader()->viewport()->update();
@@ -198,6 +191,7 @@ void frmEditMaterials::RunCommand(const std::function<void()>& run) {
 }
 
 void frmEditMaterials::ReadAgainIfChanged() {
+    if (editor_->IsEditing()) return;
     if (book_.ReadAgainIfChanged()) ShowRows();
 }
 
@@ -234,6 +228,7 @@ bool frmEditMaterials::QueryUnload() {
 
 void frmEditMaterials::FormUnload() {
     tmrWriteBook_.stop();
+    tmrLookAtBook_.stop();
     State().MaterialDatabaseHeld = Form::Find("frmMatCosts") != nullptr;
     if (closed_) QTimer::singleShot(0, qApp, closed_);
 }

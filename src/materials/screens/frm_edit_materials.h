@@ -34,7 +34,6 @@ class frmEditMaterials : public Form {
     bool QueryUnload() override;
     void FormUnload() override;
     void CommitEdits() override;
-    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
@@ -88,6 +87,7 @@ class frmEditMaterials : public Form {
     QPushButton* btnClose_ = nullptr;
     QLabel* lblDisk_ = nullptr;
     QTimer tmrWriteBook_{this};
+    QTimer tmrLookAtBook_{this};
     QString note_;
     std::function<void()> closed_;
     bool showing_ = false;

@@ -154,7 +154,7 @@ QWidget* frmEditMaterials::MakeCommandRow() {
     btnDeleteMaterial_ =
         MakeButton("btnDeleteMaterial", "", box, &frmEditMaterials::btnDeleteMaterial_Click);
     btnDeleteMaterial_->setToolTip(
-        "F12 in the grid marks rows; Delete Materials then deletes them.");
+        "Deletes the current row, or the rows that F12 has marked in the grid (Alt+K).");
     btnUndoDelete_ =
         MakeButton("btnUndoDelete", "&Undo delete", box, &frmEditMaterials::btnUndoDelete_Click);
     btnUndoDelete_->setToolTip("Brings back what the last delete took (Ctrl+Z in the grid).");
