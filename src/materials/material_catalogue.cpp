@@ -3,7 +3,7 @@
 #include <array>
 #include <limits>
 
-#include "platform/database/database.h"
+#include "materials/materials_reader.h"
 #include "platform/files/paths.h"
 #include "platform/files/settings_store.h"
 #include "platform/text/runtime_error.h"
@@ -13,45 +13,26 @@
 namespace tendo {
 namespace {
 
-constexpr const char* CatalogueSource = "SELECT * FROM Materials ORDER BY Category, Description";
 constexpr std::array<const char*, 3> MaterialTools = {"ToolMaterialDB", "ToolMaterialLists",
                                                       "ToolLaborLists"};
-
-/// Rows are counted in 16 bits.
-std::size_t CatalogueSize(const Recordset& rows) {
-    if (rows.RecordCount() > std::numeric_limits<std::int16_t>::max())
-        ThrowError(error_number::Overflow);
-    return static_cast<std::size_t>(rows.RecordCount());
-}
-
-void ReadCatalogueRow(const Recordset& rows, MaterialRow& row) {
-    row.ItemQty = 0;
-    if (!rows.IsNull("Description")) row.Description = rows.Text("Description");
-    if (!rows.IsNull("Category")) row.Category = rows.Text("Category");
-    if (!rows.IsNull("Part Number")) row.PartNumber = rows.Text("Part Number");
-    if (!rows.IsNull("UnitCst")) row.UnitCst = rows.Single("UnitCst");
-    if (!rows.IsNull("ListCst")) row.ListCst = rows.Single("ListCst");
-    if (!rows.IsNull("ListCst")) row.SalePrice = row.ListCst;
-}
 
 /// `location` follows the steps, for the report of a failure.
 void LoadCatalogue(int& location) {
     const std::string name = State().MaterialDatabaseName;
     location = 1;
-    Database database = Database::OpenDatabase(name);
+    MaterialsReader reader(name);
     location = 2;
-    Recordset rows = database.OpenRecordset(CatalogueSource);
+    reader.Read(location);
     location = 3;
-    const std::size_t count = CatalogueSize(rows);
+    const std::size_t count = reader.Count();
+    // Rows are counted in 16 bits.
+    if (count > std::numeric_limits<std::int16_t>::max()) ThrowError(error_number::Overflow);
     location = 4;
     MaterialCatalogue().assign(count, MaterialRow());
     location = 5;
-    for (MaterialRow& row : MaterialCatalogue()) {
-        ReadCatalogueRow(rows, row);
-        rows.MoveNext();
-    }
+    reader.MoveInto(MaterialCatalogue());
     location = 6;
-    database.Close();
+    reader.Close();
     location = 7;
     State().MaterialDatabaseLoaded = true;
     for (const char* tool : MaterialTools)

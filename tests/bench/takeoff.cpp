@@ -140,10 +140,10 @@ bool TakeoffPages(const std::string& folder) {
         QApplication::processEvents();
     });
     const std::pair<TakeoffView, const char*> views[] = {
-        {TakeoffView::Materials, "view of the selected materials"},
-        {TakeoffView::Accessories, "view of the selected accessories"},
-        {TakeoffView::Both, "view of all selected"},
-        {TakeoffView::All, "view of the whole book"}};
+        {TakeoffView::Materials, "to the selected materials from another view"},
+        {TakeoffView::Accessories, "to the selected accessories"},
+        {TakeoffView::Both, "to all selected"},
+        {TakeoffView::All, "to the whole book"}};
     for (const auto& [view, what] : views)
         all = ReportFrame(what,
                           [&page, view = view] {

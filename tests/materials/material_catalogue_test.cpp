@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <random>
 
 #include "material_databases.h"
 #include "platform/database/database.h"
@@ -38,6 +39,135 @@ TEST(MaterialCatalogue, IsReadInTheOrderOfCategoryAndDescription) {
     EXPECT_EQ(boot.Tax, 0);
     EXPECT_EQ(boot.Accessory, 0);
     EXPECT_EQ(boot.GrossMargin, 0.0F);
+}
+
+TEST(MaterialCatalogue, TheOrderKnowsNoCaseAndPutsNullsFirstAndKeepsEqualRowsAsTheyStand) {
+    BookFolder book;
+    WriteMaterialDatabase(book.Path("tendo.mdb"), {{"b", "1", "duct", 1, 1},
+                                                   {"A", "2", "Duct", 1, 1},
+                                                   {"co-op", "3", "DUCT", 1, 1},
+                                                   {"coop", "4", "duct", 1, 1},
+                                                   {"\u00e9clair", "5", "duct", 1, 1},
+                                                   {"Eclipse", "6", "Duct", 1, 1},
+                                                   {"same", "7", "Z", 1, 1},
+                                                   {"SAME", "8", "z", 1, 1},
+                                                   {"", "9", "z", 1, 1},
+                                                   {std::nullopt, "10", "Z", 1, 1},
+                                                   {"x", "11", "", 1, 1}});
+    EXPECT_TRUE(LoadMaterialCatalogue());
+    std::string order;
+    for (const MaterialRow& row : MaterialCatalogue())
+        order += row.PartNumber.Trimmed() + " ";
+    // An empty category, A, b, coop before its hyphened twin, éclair among the e's; a null
+    // description before an empty one, equal ones as in the file.
+    EXPECT_EQ(order, "11 2 1 4 3 5 6 10 9 7 8 ");
+}
+
+TEST(MaterialCatalogue, IsInTheOrderThatAQueryGives) {
+    BookFolder book;
+    std::vector<BookRow> rows;
+    std::mt19937 random(17);
+    const std::string letters = "aAbB-' 12\"./(";
+    const auto text = [&](std::size_t longest) {
+        std::string made;
+        for (std::size_t length = random() % longest; length > 0; --length)
+            made += letters[random() % letters.size()];
+        return made;
+    };
+    for (int i = 0; i < 2000; ++i) {
+        const bool noCategory = random() % 9 == 0;
+        const std::string category = text(3), description = text(7);
+        rows.push_back({description, std::to_string(i), category, 1, 2});
+        if (noCategory) rows.back().category.reset();
+    }
+    WriteMaterialDatabase(book.Path("tendo.mdb"), rows);
+    ASSERT_TRUE(LoadMaterialCatalogue());
+    Database database = Database::OpenDatabase(book.Path("tendo.mdb"));
+    Recordset query =
+        database.OpenRecordset("SELECT * FROM Materials ORDER BY Category, Description");
+    for (const MaterialRow& row : MaterialCatalogue()) {
+        ASSERT_EQ(row.PartNumber.Trimmed(), query.Text("Part Number"));
+        query.MoveNext();
+    }
+    EXPECT_TRUE(query.EOF_());
+}
+
+TEST(MaterialCatalogue, CostsOfOtherTypesAreTaken) {
+    BookFolder book;
+    Database::CreateDatabase(book.Path("tendo.mdb"));
+    Database database = Database::OpenDatabase(book.Path("tendo.mdb"));
+    jet::TableDefinition materials;
+    materials.name = "Materials";
+    const std::pair<const char*, jet::ColumnType> columns[] = {
+        {"Description", jet::ColumnType::Memo},
+        {"UnitCst", jet::ColumnType::Currency},
+        {"ListCst", jet::ColumnType::Double},
+        {"Part Number", jet::ColumnType::Long},
+        {"Category", jet::ColumnType::Text}};
+    for (const auto& [name, type] : columns) {
+        jet::Column column;
+        column.name = name;
+        column.type = type;
+        if (type == jet::ColumnType::Text) column.size = 50;
+        materials.columns.push_back(column);
+    }
+    database.AppendTable(materials);
+    database.AppendRows("Materials", {{std::string("One"), std::int64_t{98500}, 13.13,
+                                       std::int64_t{4711}, std::string("A")}});
+    database.Close();
+    ASSERT_TRUE(LoadMaterialCatalogue());
+    EXPECT_EQ(MaterialCatalogue()[0].UnitCst, 9.85F);
+    EXPECT_EQ(MaterialCatalogue()[0].ListCst, 13.13F);
+    EXPECT_EQ(MaterialCatalogue()[0].PartNumber.Trimmed(), "4711");
+}
+
+TEST(MaterialCatalogue, ACostThatIsATextFailsAtTheFifthLocation) {
+    BookFolder book;
+    Database::CreateDatabase(book.Path("tendo.mdb"));
+    Database database = Database::OpenDatabase(book.Path("tendo.mdb"));
+    jet::TableDefinition materials;
+    materials.name = "Materials";
+    for (const char* name : {"Description", "Category", "Part Number", "UnitCst", "ListCst"}) {
+        jet::Column column;
+        column.name = name;
+        column.size = 50;
+        materials.columns.push_back(column);
+    }
+    database.AppendTable(materials);
+    const std::string text = "12";
+    database.AppendRows("Materials", {{text, text, text, text, text}});
+    database.Close();
+    EXPECT_FALSE(LoadMaterialCatalogue());
+    EXPECT_EQ(book.messages, (Texts{CatalogueFailureText(13, 5)}));
+}
+
+TEST(MaterialCatalogue, ATableThatCannotBeOrderedFailsAtTheSecondLocation) {
+    BookFolder book;
+    Database::CreateDatabase(book.Path("tendo.mdb"));
+    Database database = Database::OpenDatabase(book.Path("tendo.mdb"));
+    jet::TableDefinition materials;
+    materials.name = "Materials";
+    jet::Column column;
+    column.name = "Description";
+    column.size = 50;
+    materials.columns.push_back(column);
+    database.AppendTable(materials);
+    database.Close();
+    EXPECT_FALSE(LoadMaterialCatalogue());
+    EXPECT_EQ(book.messages, (Texts{CatalogueFailureText(3061, 2)}));
+}
+
+TEST(MaterialCatalogue, ABookOf32768MaterialsIsTooLargeAtTheThirdLocation) {
+    BookFolder book;
+    WriteMaterialDatabase(book.Path("tendo.mdb"),
+                          std::vector<BookRow>(32768, BookRow{"One", "1", "A", 1, 2}));
+    EXPECT_FALSE(LoadMaterialCatalogue());
+    EXPECT_EQ(book.messages, (Texts{CatalogueFailureText(6, 3)}));
+    WriteMaterialDatabase(book.Path("other.mdb"),
+                          std::vector<BookRow>(32767, BookRow{"One", "1", "A", 1, 2}));
+    State().MaterialDatabaseName = book.Path("other.mdb");
+    EXPECT_TRUE(LoadMaterialCatalogue());
+    EXPECT_EQ(MaterialCatalogue().size(), 32767U);
 }
 
 TEST(MaterialCatalogue, ADescriptionOverTwentyTwoCharactersIsCut) {

@@ -205,8 +205,7 @@ TEST_F(PriceBookOnDisk, ABookChangedElsewhereIsReadAgain) {
     EXPECT_TRUE(book.ReadAgainIfChanged());
     EXPECT_EQ(Column(Description), "Boot|Elbow|Zinc");
     EXPECT_EQ(book.Rows().CurrentRow(), 1);
-    EXPECT_EQ(notes.back(),
-              "The price book was changed elsewhere and has been read again.");
+    EXPECT_EQ(notes.back(), "The price book was changed elsewhere and has been read again.");
     EXPECT_FALSE(book.ReadAgainIfChanged());
 }
 

@@ -36,9 +36,9 @@ struct Neighbour {
     const char* screen;
 };
 constexpr Neighbour neighbourPlans[] = {
-    {"btnEditAddMaterials", "Edit/Add &Materials…", "Edit the Price Book", "frmEditMaterials"},
-    {"btnEditAddAssembly", "Edit lis&ts…", "Add/Edit/Delete Material List", "frmListAddDelete"},
-    {"btnEditLaborCosts", "Labor c&osts…", "Edit Labor Costs", "frmLaborCosts"},
+    {"btnEditAddMaterials", "Ed&it/Add Materials…", "Edit the Price Book", "frmEditMaterials"},
+    {"btnEditAddAssembly", "Ma&nage lists…", "Add/Edit/Delete Material List", "frmListAddDelete"},
+    {"btnEditLaborCosts", "La&bor costs…", "Edit Labor Costs", "frmLaborCosts"},
 };
 
 QString Q(const std::string& text) {
@@ -105,12 +105,12 @@ QWidget* frmMatCosts::MakeDatabaseBar() {
     bar->setContentsMargins(0, 0, 0, 0);
     bar->setSpacing(8);
     txtDatabase_ = new TextField(
-        FieldSpec{.name = "txtDatabase", .label = "Material &database:", .kind = EntryKind::Label},
+        FieldSpec{.name = "txtDatabase", .label = "Material database:", .kind = EntryKind::Label},
         box);
-    auto* change = page_->MakeButton("btnChangeDB", "Change data&base…",
+    auto* change = page_->MakeButton("btnChangeDB", "Change price boo&k…",
                                      "Select Materials from another Database");
     connect(change, &QPushButton::clicked, this, &frmMatCosts::btnChangeDB_Click);
-    bar->addWidget(MakeLabel("Material &database:", txtDatabase_, box));
+    bar->addWidget(MakeLabel("Material database:", txtDatabase_, box));
     bar->addWidget(txtDatabase_, 1);
     bar->addWidget(change);
     return box;
@@ -122,7 +122,7 @@ void frmMatCosts::AddListChoice() {
     lists_->setAccessibleName("Material list to apply");
     lists_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     lists_->setMinimumContentsLength(18);
-    page_->AddToTopBar(MakeLabel("Apply &list:", lists_, page_));
+    page_->AddToTopBar(MakeLabel("Appl&y list:", lists_, page_));
     page_->AddToTopBar(lists_);
     connect(lists_, &QComboBox::textActivated, this, &frmMatCosts::ComboSelectMatList_Click);
 }

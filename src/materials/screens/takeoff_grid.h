@@ -23,6 +23,8 @@ class TakeoffGrid : public QWidget {
 
     /// Puts the focus into the current row's quantity.
     void FocusCurrentRow();
+    /// The field that the tab key reaches last.
+    QWidget* LastField() { return Row(Rows - 1).fields.back(); }
     /// Part numbers instead of descriptions.
     void ShowPartNumbers(bool shown);
 

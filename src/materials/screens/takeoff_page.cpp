@@ -29,10 +29,10 @@ struct ViewButton {
     TakeoffView view;
 };
 constexpr ViewButton viewButtons[] = {
-    {"btnViewAll", "&All", "View All Materials and Accessories", TakeoffView::All},
-    {"btnViewMaterials", "Mater&ials", "View Selected Materials", TakeoffView::Materials},
-    {"btnViewAccessories", "Acc&essories", "View Selected Accessories", TakeoffView::Accessories},
-    {"btnViewBoth", "Bot&h", "View Selected Materials and Accessories", TakeoffView::Both},
+    {"btnViewAll", "A&ll", "View All Materials and Accessories", TakeoffView::All},
+    {"btnViewMaterials", "&Materials", "View Selected Materials", TakeoffView::Materials},
+    {"btnViewAccessories", "A&ccessories", "View Selected Accessories", TakeoffView::Accessories},
+    {"btnViewBoth", "B&oth", "View Selected Materials and Accessories", TakeoffView::Both},
 };
 
 QHBoxLayout* MakeBar(QWidget* box) {
@@ -58,6 +58,7 @@ TakeoffPage::TakeoffPage(std::vector<MaterialRow>& catalogue, const std::string&
     column->addWidget(MakeSearchBar());
     grid_ = new TakeoffGrid(takeoff_, this);
     column->addWidget(grid_);
+    column->addWidget(MakeSums());
     column->addWidget(MakeBottomBar());
     note_ = MakeLabel("", nullptr, this);
     note_->setObjectName("lblNote");
@@ -68,6 +69,8 @@ TakeoffPage::TakeoffPage(std::vector<MaterialRow>& catalogue, const std::string&
         Q_EMIT TitleChanged(QString::fromStdString(takeoff_.Title()));
     };
     connect(grid_, &TakeoffGrid::Changed, this, &TakeoffPage::ShowSums);
+    lastAbove_ = viewButtons_.back();
+    lastBelow_ = grid_->LastField();
     ShowSums();
 }
 
@@ -89,7 +92,7 @@ QWidget* TakeoffPage::MakeTopBar() {
     AddViewButtons(topBar_);
     topBar_->addSpacing(12);
     topBar_->addStretch();
-    auto* partNumbers = new QCheckBox("View &Part Numbers", box);
+    auto* partNumbers = new QCheckBox("&View Part Numbers", box);
     partNumbers->setObjectName("ChkPartNum");
     connect(partNumbers, &QCheckBox::toggled, this, [this](bool on) {
         Form::CommitFocusedField();
@@ -121,16 +124,16 @@ QWidget* TakeoffPage::MakeSearchBar() {
     jump->setClearButtonEnabled(true);
     connect(jump, &QLineEdit::textEdited, this, &TakeoffPage::JumpTyped);
     connect(jump, &QLineEdit::returnPressed, this, [this] { grid_->FocusCurrentRow(); });
+    auto* search = MakeButton("btnSearch", "&Search…", "Search for a description");
+    repeatSearch_ = MakeButton("btnRepeatSearch", "Repe&at search", "Repeat Search");
+    connect(search, &QPushButton::clicked, this, &TakeoffPage::btnSearch_Click);
+    connect(repeatSearch_, &QPushButton::clicked, this, &TakeoffPage::btnRepeatSearch_Click);
     categories_ = new QComboBox(box);
     categories_->setObjectName("ComboSelectCategory");
     categories_->setAccessibleName("Category");
     categories_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     categories_->setMinimumContentsLength(20);
     connect(categories_, &QComboBox::textActivated, this, &TakeoffPage::CategoryChosen);
-    auto* search = MakeButton("btnSearch", "&Search…", "Search for a description");
-    repeatSearch_ = MakeButton("btnRepeatSearch", "&Repeat search", "Repeat Search");
-    connect(search, &QPushButton::clicked, this, &TakeoffPage::btnSearch_Click);
-    connect(repeatSearch_, &QPushButton::clicked, this, &TakeoffPage::btnRepeatSearch_Click);
     bar->addWidget(MakeLabel("&Jump to:", jump, box));
     bar->addWidget(jump, 1);
     bar->addWidget(search);
@@ -144,7 +147,7 @@ QWidget* TakeoffPage::MakeSearchBar() {
 QWidget* TakeoffPage::MakeBottomBar() {
     auto* box = new QWidget(this);
     bottomBar_ = MakeBar(box);
-    auto* clear = MakeButton("btnClear", "&Clear selections…", "Clear All Selected Materials");
+    auto* clear = MakeButton("btnClear", "Clear &quantities…", "Clear All Selected Materials");
     auto* exportButton =
         MakeButton("btnExport", "E&xport…", "Write the Selected Materials to a .csv or .xlsx File");
     connect(clear, &QPushButton::clicked, this, &TakeoffPage::btnClear_Click);
@@ -152,12 +155,19 @@ QWidget* TakeoffPage::MakeBottomBar() {
     bottomBar_->addWidget(clear);
     bottomBar_->addWidget(exportButton);
     bottomBar_->addStretch();
+    return box;
+}
+
+QWidget* TakeoffPage::MakeSums() {
+    auto* box = new QWidget(this);
+    QHBoxLayout* bar = MakeBar(box);
+    bar->addStretch();
     const auto sum = [&](const char* name, const char* caption) {
         auto* figure = new QLabel(box);
         figure->setObjectName(name);
-        bottomBar_->addSpacing(8);
-        bottomBar_->addWidget(MakeLabel(caption, nullptr, box));
-        bottomBar_->addWidget(figure);
+        bar->addSpacing(8);
+        bar->addWidget(MakeLabel(caption, nullptr, box));
+        bar->addWidget(figure);
         return figure;
     };
     taxable_ = sum("lblTaxable", "Taxable");
@@ -170,10 +180,19 @@ QWidget* TakeoffPage::MakeBottomBar() {
 /// In front of the stretch and the tick box behind it.
 void TakeoffPage::AddToTopBar(QWidget* widget) {
     topBar_->insertWidget(topBar_->count() - 2, widget);
+    FollowWith(lastAbove_, widget);
 }
 
 void TakeoffPage::AddToBottomBar(QWidget* widget) {
     bottomBar_->insertWidget(bottomButtons_++, widget);
+    FollowWith(lastBelow_, widget);
+}
+
+/// The tab key follows the eye, not the order of making.
+void TakeoffPage::FollowWith(QWidget*& last, QWidget* next) {
+    if (next->focusPolicy() == Qt::NoFocus) return;
+    setTabOrder(last, next);
+    last = next;
 }
 
 void TakeoffPage::FillCategories() {

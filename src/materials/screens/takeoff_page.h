@@ -51,9 +51,11 @@ class TakeoffPage : public QWidget {
   private:
     QWidget* MakeTopBar();
     QWidget* MakeSearchBar();
+    QWidget* MakeSums();
     QWidget* MakeBottomBar();
     void AddViewButtons(QHBoxLayout* bar);
     void ShowView(TakeoffView view);
+    static void FollowWith(QWidget*& last, QWidget* next);
     void ShowSums();
     void CategoryChosen(const QString& category);
     void JumpTyped(const QString& text);
@@ -68,6 +70,8 @@ class TakeoffPage : public QWidget {
     QHBoxLayout* topBar_ = nullptr;
     QHBoxLayout* bottomBar_ = nullptr;
     int bottomButtons_ = 0;  // of the screen itself
+    // What the tab key reaches before a screen's own controls.
+    QWidget *lastAbove_ = nullptr, *lastBelow_ = nullptr;
     QComboBox* categories_ = nullptr;
     QPushButton* repeatSearch_ = nullptr;
     std::vector<QPushButton*> viewButtons_;

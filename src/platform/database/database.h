@@ -150,4 +150,7 @@ class Recordset {
 /// text, currency with four decimals less trailing zeros, dates by ShortDateText.
 std::string TextOfValue(const jet::Value& value, jet::ColumnType type);
 
+/// A value as a number; null is 0, true -1. RuntimeError 13 for a text.
+double NumberOfValue(const jet::Value& value, jet::ColumnType type);
+
 }  // namespace tendo

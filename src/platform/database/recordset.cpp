@@ -14,17 +14,6 @@ namespace {
 constexpr int BookmarkNotValid = 3159;
 constexpr double CurrencyUnits = 10000;
 
-/// A value as a number; null is 0. RuntimeError 13 for a text.
-double NumberOf(const jet::Value& value, jet::ColumnType type) {
-    if (const auto* flag = std::get_if<bool>(&value)) return *flag ? -1 : 0;
-    if (const auto* number = std::get_if<double>(&value)) return *number;
-    if (std::holds_alternative<std::string>(value)) ThrowError(error_number::TypeMismatch);
-    const auto* whole = std::get_if<std::int64_t>(&value);
-    if (!whole) return 0;
-    const auto number = static_cast<double>(*whole);
-    return type == jet::ColumnType::Currency ? number / CurrencyUnits : number;
-}
-
 /// The nearest whole number, halves to the even one; RuntimeError 6 out of range.
 template <class Whole>
 Whole WholeOf(double number) {
@@ -36,6 +25,16 @@ Whole WholeOf(double number) {
 }
 
 }  // namespace
+
+double NumberOfValue(const jet::Value& value, jet::ColumnType type) {
+    if (const auto* flag = std::get_if<bool>(&value)) return *flag ? -1 : 0;
+    if (const auto* number = std::get_if<double>(&value)) return *number;
+    if (std::holds_alternative<std::string>(value)) ThrowError(error_number::TypeMismatch);
+    const auto* whole = std::get_if<std::int64_t>(&value);
+    if (!whole) return 0;
+    const auto number = static_cast<double>(*whole);
+    return type == jet::ColumnType::Currency ? number / CurrencyUnits : number;
+}
 
 Recordset::Recordset(std::unique_ptr<State> state) : state_(std::move(state)) {}
 Recordset::Recordset(Recordset&&) noexcept = default;
@@ -172,7 +171,7 @@ std::string Recordset::Text(std::string_view field) const {
 
 double Recordset::Double(std::string_view field) const {
     const int place = state_->NeedField(field);
-    return NumberOf(Get(place), state_->fields[static_cast<std::size_t>(place)].type);
+    return NumberOfValue(Get(place), state_->fields[static_cast<std::size_t>(place)].type);
 }
 
 float Recordset::Single(std::string_view field) const {

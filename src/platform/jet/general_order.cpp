@@ -174,6 +174,18 @@ std::uint8_t SimpleWeight(char character) {
     return byte < 128 ? simpleWeights[byte] : 0;
 }
 
+/// The key of a text of such characters only, which is what most texts are; empty for any other.
+std::string SimpleKey(std::string_view text) {
+    std::string key(text.size() + 2, '\0');
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::uint8_t weight = SimpleWeight(text[i]);
+        if (weight == 0) return {};
+        key[i] = static_cast<char>(weight);
+    }
+    key[text.size()] = '\1';
+    return key;
+}
+
 int CompareKeys(std::string_view a, std::string_view b) {
     return GeneralSortKey(a).compare(GeneralSortKey(b));
 }
@@ -181,6 +193,10 @@ int CompareKeys(std::string_view a, std::string_view b) {
 }  // namespace
 
 std::string GeneralSortKey(std::string_view utf8) {
+    if (utf8.size() <= SignificantCharacters) {
+        std::string key = SimpleKey(TrimmedRight(utf8));
+        if (!key.empty()) return key;
+    }
     std::u32string characters = ToCodePoints(FirstCharacters(utf8, SignificantCharacters));
     characters.erase(characters.find_last_not_of(U' ') + 1);
     KeyParts parts;
