@@ -267,6 +267,8 @@ void ModelSelection::SortByColumn(int tab, int column) {
         sort.reset();
     }
     ApplySort(tab);
+    ModelRows& rows = StateOf(tab).rows;
+    if (markedTab_ != tab) rows.MoveTo(rows.RowAt(0));
 }
 
 bool ModelSelection::FindTyped(int tab, std::string_view text) {

@@ -98,8 +98,8 @@ class ModelSelection {
     std::optional<int> MarkedTab() const { return markedTab_; }
 
     /// A click on a column head: the grid shows its rows by that column, at a second click the
-    /// other way round, at a third as the query gives them. Queries, searches and the current row
-    /// go on in the query's order.
+    /// other way round, at a third as the query gives them. The first shown row becomes the current
+    /// one, unless one is marked. Queries and searches go on in the query's order.
     void SortByColumn(int tab, int column);
     const std::optional<ModelSort>& Sorting(int tab) const { return StateOf(tab).sort; }
     /// The row that the grid shows at a place, and the place of a row; -1 outside of the grid.

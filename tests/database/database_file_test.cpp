@@ -196,6 +196,19 @@ TEST_F(DatabaseFileTest, ReadingAloneWritesNothing) {
     EXPECT_FALSE(FileExists(path));
 }
 
+TEST_F(DatabaseFileTest, TheRowsOfATableAreCountedWithoutOpeningThem) {
+    Database database = Database::OpenDatabase(PriceFile());
+    const int rows = database.OpenRecordset("Categories").RecordCount();
+    EXPECT_EQ(database.RecordCount("categories"), rows);
+    database.AppendRows("Categories", {{"Valve"}});
+    EXPECT_EQ(database.RecordCount("Categories"), rows + 1);
+    database.DeleteAllRows("Categories");
+    EXPECT_EQ(database.RecordCount("Categories"), 0);
+    EXPECT_EQ(ErrorOf([&] { database.RecordCount("Nothing"); }), 3078);
+    database.Close();
+    EXPECT_EQ(ErrorOf([&] { database.RecordCount("Materials"); }), 3420);
+}
+
 TEST_F(DatabaseFileTest, WithoutCloseNothingIsWritten) {
     const std::string path = PriceFile();
     const std::string before = Get("prices.mdb");

@@ -94,6 +94,15 @@ TEST_F(ModelOrder, SortingTouchesNeitherTheRowsNorTheCurrentOneNorTheMark) {
     EXPECT_EQ(records.CLGModelData[0].ModelNum.Trimmed(), "FB-24");
 }
 
+TEST_F(ModelOrder, WithoutAMarkTheFirstShownRowBecomesTheCurrentOne) {
+    ModelSelection& s = Open(SelectionMode::Cooling);
+    ClickHead("Capacity");
+    EXPECT_EQ(s.CellText(TabAC, s.CurrentRow(TabAC), 1), "FD-12");
+    ClickHead("Capacity");
+    EXPECT_EQ(s.CellText(TabAC, s.CurrentRow(TabAC), 1), "FC-30");
+    EXPECT_FALSE(s.MarkedTab().has_value());
+}
+
 TEST_F(ModelOrder, ASearchGoesOnInTableOrderHoweverTheGridIsSorted) {
     ModelSelection& s = Open(SelectionMode::Cooling);
     ClickHead("Capacity");

@@ -45,14 +45,14 @@ TEST_F(ModelViews, AWidthThatTheUserSetIsThereTheNextTime) {
     const auto first = View(TabAC);
     const int design = first->columnWidth(1);
     first->horizontalHeader()->resizeSection(1, design + 80);
-    first->StoreWidths();
+    first->KeepWidths();
     const auto second = View(TabAC);
     EXPECT_NEAR(second->columnWidth(1), design + 80, 1);  // kept in tenths of a letter
     EXPECT_NEAR(second->columnWidth(4), first->columnWidth(4), 1);
 }
 
 TEST_F(ModelViews, WidthsThatNobodySetAreNotKept) {
-    View(TabAC)->StoreWidths();
+    View(TabAC)->KeepWidths();
     EXPECT_FALSE(std::filesystem::exists(store));
 }
 
@@ -70,7 +70,7 @@ TEST_F(ModelViews, EachGridHasItsOwnWidths) {
     const auto view = View(TabAC);
     const int other = View(TabHP)->columnWidth(1);
     view->horizontalHeader()->resizeSection(1, 333);
-    view->StoreWidths();
+    view->KeepWidths();
     EXPECT_EQ(View(TabHP)->columnWidth(1), other);
 }
 

@@ -54,7 +54,7 @@ void frmModelSelection::ShowDatabase() {
     txtDatabase_->setToolTip(name);
     for (const int tab : selection_.VisibleTabs()) {
         views_[static_cast<std::size_t>(tab)]->Refill(true);
-        ShowEPAMark(tab);
+        if (tab != selection_.CurrentTab()) ShowEPAMark(tab);
     }
     ShowTexts();
 }
@@ -197,7 +197,7 @@ void frmModelSelection::keyPressEvent(QKeyEvent* event) {
 
 void frmModelSelection::FormUnload() {
     for (const int tab : selection_.VisibleTabs())
-        views_[static_cast<std::size_t>(tab)]->StoreWidths();
+        views_[static_cast<std::size_t>(tab)]->KeepWidths();
     for (const auto& refill : AfterModelSelection())
         refill();
 }

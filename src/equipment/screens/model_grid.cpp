@@ -8,7 +8,7 @@
 namespace tendo {
 namespace {
 
-constexpr int measuredRows = 40;  // the widths come from these; all rows of a table look alike
+constexpr int measuredRows = 24;  // the widths come from these; all rows of a table look alike
 constexpr int widestCell = 56;    // letters
 constexpr int cellPadding = 26;
 

@@ -134,7 +134,7 @@ void frmModelSelection::FillPage(QWidget* page, int tab) {
     connect(view, &ModelView::RowChanged, this, [this, tab](int row) { grid_RowChange(tab, row); });
     connect(view, &ModelView::RowClicked, this, [this, tab](int row) { ClickRow(tab, row); });
     connect(view, &ModelView::RowChosen, this, [this, tab](int row) { ChooseRow(tab, row); });
-    connect(view, &ModelView::SortingChanged, this, &frmModelSelection::ShowCount);
+    connect(view, &ModelView::SortingChanged, this, &frmModelSelection::ShowTexts);
     views_[static_cast<std::size_t>(tab)] = view;
 }
 

@@ -5,19 +5,15 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include "equipment/screens/column_widths.h"
+#include "equipment/screens/find_label.h"
 #include "equipment/screens/model_grid.h"
 #include "equipment/screens/model_head.h"
-#include "platform/files/settings_store.h"
-#include "platform/qt/theme.h"
-#include "platform/text/runtime_error.h"
 
 namespace tendo {
 namespace {
 
-constexpr const char* settingsSection = "frmModelSelection";
-constexpr int typingPause = 1500;  // milliseconds
 constexpr int narrowest = 24;
-constexpr int widest = 4000;
 
 QString Q(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -33,8 +29,6 @@ ModelView::ModelView(ModelSelection& selection, int tab, QWidget* parent)
       head_(new ModelHead(this)) {
     setObjectName(Q(ModelTabAt(tab).gridName));
     setAccessibleName(Q(ModelTabAt(tab).kind));
-    typingPause_.setSingleShot(true);
-    typingPause_.setInterval(typingPause);
     PrepareLook();
     if (!selection.IsVisible(tab)) return;  // a grid that nobody will see
     setModel(grid_);
@@ -71,7 +65,6 @@ void ModelView::Connect() {
         // The last column takes what room is left.
         if (!showing_ && column < grid_->columnCount() - 1) ownWidths_ = true;
     });
-    connect(&typingPause_, &QTimer::timeout, this, &ModelView::EndFind);
 }
 
 int ModelView::RowOf(const QModelIndex& index) const {
@@ -93,40 +86,20 @@ void ModelView::Refill(bool otherDatabase) {
 /// The user's widths; else such that headings and first rows fit.
 void ModelView::ApplyWidths() {
     if (ownWidths_ || widthsFitted_) return;
-    if (ApplyStoredWidths()) return;
+    ownWidths_ = ApplyStoredWidths(*this, WidthsName());
+    if (ownWidths_) return;
     const std::vector<int> widths = grid_->FittingWidths(font(), *head_);
     for (std::size_t column = 0; column < widths.size(); ++column)
         setColumnWidth(static_cast<int>(column), widths[column]);
     widthsFitted_ = grid_->rowCount() > 0;
 }
 
-/// Widths are kept in tenths of a letter, so that they go with the size of the font.
-bool ModelView::ApplyStoredWidths() {
-    const QString stored =
-        Q(Settings().GetSetting(settingsSection, objectName().toStdString() + "Widths"));
-    const QStringList parts = stored.split(',');
-    if (parts.size() != grid_->columnCount()) return false;
-    const int letter = fontMetrics().averageCharWidth();
-    for (int column = 0; column < grid_->columnCount(); ++column) {
-        const int width = parts[column].toInt() * letter / 10;
-        if (width < narrowest || width > widest) return false;
-        setColumnWidth(column, width);
-    }
-    return ownWidths_ = true;
+void ModelView::KeepWidths() const {
+    if (ownWidths_) StoreWidths(*this, WidthsName());
 }
 
-void ModelView::StoreWidths() const {
-    if (!ownWidths_) return;
-    const int letter = fontMetrics().averageCharWidth();
-    QStringList parts;
-    for (int column = 0; column < grid_->columnCount(); ++column)
-        parts << QString::number((columnWidth(column) * 10 + letter - 1) / letter);
-    try {
-        Settings().SaveSetting(settingsSection, objectName().toStdString() + "Widths",
-                               parts.join(',').toStdString());
-    } catch (const RuntimeError&) {
-        // A store that can't be written costs the widths, which is not worth a message.
-    }
+std::string ModelView::WidthsName() const {
+    return objectName().toStdString() + "Widths";
 }
 
 void ModelView::ShowCurrentRow() {
@@ -186,15 +159,16 @@ QModelIndex ModelView::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
 void ModelView::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
     const int row = selection_.CurrentRow(tab_);
-    const bool finding = !typed_.isEmpty();
+    const QString typed = Typed();
+    const bool finding = !typed.isEmpty();
     if (key == Qt::Key_Return || key == Qt::Key_Enter) {
         if (row >= 0) Q_EMIT RowChosen(row);
     } else if (key == Qt::Key_Space && finding) {
-        Find(typed_ + " ");
+        Find(typed + " ");
     } else if (key == Qt::Key_Space) {
         if (row >= 0) Q_EMIT RowClicked(row);
     } else if (key == Qt::Key_Backspace && finding) {
-        Find(typed_.chopped(1));
+        Find(typed.chopped(1));
     } else if (key == Qt::Key_Escape && finding) {
         EndFind();
     } else {
@@ -202,42 +176,28 @@ void ModelView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+QString ModelView::Typed() const {
+    return lblFind_ ? lblFind_->Typed() : QString();
+}
+
 void ModelView::keyboardSearch(const QString& text) {
-    Find(typed_ + text);
+    Find(Typed() + text);
 }
 
 /// Finds as one types: goes to the next model whose number begins with the text, else holds it.
 void ModelView::Find(const QString& text) {
+    if (!lblFind_) {
+        lblFind_ = new FindLabel(this);
+        lblFind_->setObjectName(objectName().replace("grd", "lblFind"));
+    }
     if (text.isEmpty()) return EndFind();
-    typed_ = text;
     const bool found = selection_.FindTyped(tab_, text.toStdString());
-    if (!lblFind_) MakeFindLabel();
-    lblFind_->setText(found ? text : text + "  –  none");
-    SetStyleFlag(lblFind_, "negative", !found);
-    PlaceFindLabel();
-    lblFind_->show();
-    typingPause_.start();
+    lblFind_->Show(text, found, viewport()->geometry());
     if (found) Q_EMIT RowChanged(selection_.CurrentRow(tab_));
 }
 
 void ModelView::EndFind() {
-    typingPause_.stop();
-    typed_.clear();
-    if (lblFind_) lblFind_->hide();
-}
-
-void ModelView::MakeFindLabel() {
-    lblFind_ = new QLabel(this);
-    lblFind_->setObjectName(objectName().replace("grd", "lblFind"));
-    lblFind_->setAccessibleName("Finding");
-    lblFind_->setProperty("typed", true);
-}
-
-void ModelView::PlaceFindLabel() {
-    if (!lblFind_) return;
-    lblFind_->adjustSize();
-    const QRect area = viewport()->geometry();
-    lblFind_->move(area.right() - lblFind_->width() - 8, area.bottom() - lblFind_->height() - 8);
+    if (lblFind_) lblFind_->End();
 }
 
 void ModelView::focusOutEvent(QFocusEvent* event) {
@@ -248,7 +208,7 @@ void ModelView::focusOutEvent(QFocusEvent* event) {
 void ModelView::resizeEvent(QResizeEvent* event) {
     const QScopedValueRollback<bool> showing(showing_, true);
     QTableView::resizeEvent(event);
-    PlaceFindLabel();
+    if (lblFind_) lblFind_->Place(viewport()->geometry());
 }
 
 }  // namespace tendo

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QLabel>
 #include <QTableView>
-#include <QTimer>
+#include <string>
 
 #include "equipment/model_selection.h"
 
 namespace tendo {
 
+class FindLabel;
 class ModelGrid;
 class ModelHead;
 
@@ -28,10 +28,10 @@ class ModelView : public QTableView {
     /// "by Price", "by Price, from the highest"; empty in the order of the query.
     QString Sorting() const;
     /// What was typed to find a model; empty after a pause.
-    QString Typed() const { return typed_; }
+    QString Typed() const;
 
     /// Keeps the widths that the user set in the settings store.
-    void StoreWidths() const;
+    void KeepWidths() const;
 
   Q_SIGNALS:
     /// The current row is another one; no choice.
@@ -54,23 +54,19 @@ class ModelView : public QTableView {
     void Connect();
     int RowOf(const QModelIndex& index) const;
     void ApplyWidths();
-    bool ApplyStoredWidths();
+    std::string WidthsName() const;
     void SortBy(int column);
     void ShowSorting();
     void Find(const QString& text);
     void EndFind();
-    void MakeFindLabel();
-    void PlaceFindLabel();
 
     ModelSelection& selection_;
     int tab_;
     ModelGrid* grid_;
     ModelHead* head_;
-    QLabel* lblFind_ = nullptr;  // made when it is first needed
-    QString typed_;
-    QTimer typingPause_;
-    bool showing_ = false;    // what changes now is the program's doing
-    bool ownWidths_ = false;  // the user's, from now or before
+    FindLabel* lblFind_ = nullptr;  // made when it is first needed
+    bool showing_ = false;          // what changes now is the program's doing
+    bool ownWidths_ = false;        // the user's, from now or before
     bool widthsFitted_ = false;
 };
 
