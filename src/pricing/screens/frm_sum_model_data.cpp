@@ -1,5 +1,6 @@
 #include "pricing/screens/frm_sum_model_data.h"
 
+#include <QBoxLayout>
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QPushButton>
@@ -8,6 +9,7 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/theme.h"
 #include "pricing/screens/price_help.h"
+#include "pricing/screens/scroll_column.h"
 #include "pricing/screens/system_cards.h"
 #include "pricing/screens/view_switch.h"
 #include "pricing/screens/why_popup.h"
@@ -55,9 +57,14 @@ void frmSumModelData::showEvent(QShowEvent* event) {
     connect(SubWindow(), &QMdiSubWindow::aboutToActivate, this, &frmSumModelData::FollowSystem);
 }
 
-/// Wide enough for every figure; the entry lines' own hints ask for more than any figure takes.
+void frmSumModelData::resizeEvent(QResizeEvent* event) {
+    Form::resizeEvent(event);
+    for (QBoxLayout* row : {prices_, models_})
+        StackWhenNarrow(row, width());
+}
+
 QSize frmSumModelData::sizeHint() const {
-    return {content_->minimumSizeHint().width() + 24, content_->sizeHint().height()};
+    return ScreenSize(column_);
 }
 
 void frmSumModelData::ShowSurroundings() {

@@ -8,6 +8,7 @@
 #include "pricing/screens/pricing_hooks.h"
 #include "project/project_records.h"
 
+class QBoxLayout;
 class QGridLayout;
 class QFrame;
 class QLabel;
@@ -42,6 +43,7 @@ class frmSumModelData : public Form {
     void StoreFields() override;
     void FormUnload() override;
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     // The layout (frm_sum_model_layout.cpp).
@@ -80,8 +82,11 @@ class frmSumModelData : public Form {
 
     PriceTable table_{Project()};
     BoundFields fields_{table_, this};
-    QWidget* content_ = nullptr;
+    QVBoxLayout* column_;
+    QWidget* content_;
     SystemCards* cards_ = nullptr;
+    QBoxLayout* prices_ = nullptr;  // the table, and beside it what it earns
+    QBoxLayout* models_ = nullptr;  // the cooling and the heating model
     QLabel* lblLabor_ = nullptr;
     QLabel* lblTax_ = nullptr;     // the tax and its percentage, in what it earns
     TextField* taxSum_ = nullptr;  // its amount

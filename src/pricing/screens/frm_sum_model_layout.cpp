@@ -73,20 +73,20 @@ void MakePlainFigure(TextField* field) {
 }  // namespace
 
 frmSumModelData::frmSumModelData()
-    : Form("frmSumModelData", "Summary Model Data", Place::Child, "frmSumModelData") {
-    QVBoxLayout* column = MakeScrollColumn(this);
-    content_ = column->parentWidget();
+    : Form("frmSumModelData", "Summary Model Data", Place::Child, "frmSumModelData"),
+      column_(MakeScrollColumn(this)),
+      content_(column_->parentWidget()) {
     cards_ = new SystemCards(content_);
     connect(cards_, &SystemCards::Chosen, this, &frmSumModelData::GoToSystem);
-    column->addWidget(cards_);
-    auto* upper = new QHBoxLayout;
-    upper->setSpacing(24);
-    upper->addWidget(MakePrices(), 1);
-    upper->addWidget(MakeEarnings());
-    column->addLayout(upper);
-    column->addWidget(MakeModels());
-    column->addWidget(MakeScreenButtons());
-    column->addStretch();
+    column_->addWidget(cards_);
+    prices_ = new QHBoxLayout;
+    prices_->setSpacing(24);
+    prices_->addWidget(MakePrices(), 1);
+    prices_->addWidget(MakeEarnings());
+    column_->addLayout(prices_);
+    column_->addWidget(MakeModels());
+    column_->addWidget(MakeScreenButtons());
+    column_->addStretch();
     PassFocusOn();
     setFocusProxy(fields_.At(TableField::ModelDealerOverride));
     table_.ShowMessage = [](const std::string& title, const std::string& text) {
@@ -125,7 +125,7 @@ QWidget* frmSumModelData::MakePrices() {
     why->setToolTip("Where the figure in focus comes from (Shift+F1)");
     why->setFocusPolicy(Qt::NoFocus);
     connect(why, &QPushButton::clicked, this, &frmSumModelData::WantWhyInFocus);
-    head->addWidget(MakeHeading("Price of the project, all systems", box));
+    head->addWidget(MakeHeading("Price of the project, all systems", box), 0, Qt::AlignTop);
     head->addStretch();
     head->addWidget(why);
     column->addLayout(head);

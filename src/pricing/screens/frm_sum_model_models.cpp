@@ -86,11 +86,11 @@ QWidget* frmSumModelData::MakeModels() {
     head->addWidget(previous);
     head->addWidget(next);
     column->addLayout(head);
-    auto* cards = new QHBoxLayout;
-    cards->setSpacing(12);
-    cards->addWidget(MakeModelCard(ModelSide::Cooling, fraModelInfo_), 1);
-    cards->addWidget(MakeModelCard(ModelSide::Heating, fraModelInfo_), 1);
-    column->addLayout(cards);
+    models_ = new QHBoxLayout;
+    models_->setSpacing(12);
+    models_->addWidget(MakeModelCard(ModelSide::Cooling, fraModelInfo_), 1);
+    models_->addWidget(MakeModelCard(ModelSide::Heating, fraModelInfo_), 1);
+    column->addLayout(models_);
     return fraModelInfo_;
 }
 

@@ -59,16 +59,20 @@ bool IsMoney(TableField field) {
 }  // namespace
 
 frmSumRptData::frmSumRptData()
-    : Form("frmSumRptData", "Summary Report Data", Place::Child, "frmSumRptData") {
+    : Form("frmSumRptData", "Summary Report Data", Place::Child, "frmSumRptData"),
+      column_(MakeScrollColumn(this)) {
     WorkingScreen();
-    QVBoxLayout* column = MakeScrollColumn(this);
     cards_ = new SystemCards(this);
     connect(cards_, &SystemCards::Chosen, this, &frmSumRptData::GoToSystem);
-    column->addWidget(cards_);
-    column->addWidget(MakePrices());
-    column->addWidget(MakeModels());
-    column->addStretch();
+    column_->addWidget(cards_);
+    column_->addWidget(MakePrices());
+    column_->addWidget(MakeModels());
+    column_->addStretch();
     SetSystemTendos();
+}
+
+QSize frmSumRptData::sizeHint() const {
+    return ScreenSize(column_);
 }
 
 TextField* frmSumRptData::Add(TableField field, QWidget* parent) {
@@ -140,11 +144,11 @@ QWidget* frmSumRptData::MakeModels() {
     button("btnPreviousSystem", "‹ Pre&vious system", false);
     button("btnNextSystem", "Next s&ystem ›", true);
     column->addLayout(head);
-    auto* cards = new QHBoxLayout;
-    cards->setSpacing(12);
-    cards->addWidget(MakeModelCard("Cooling", "cooling", TableField::CLGDB), 1);
-    cards->addWidget(MakeModelCard("Heating", "heating", TableField::HTGDatabase), 1);
-    column->addLayout(cards);
+    models_ = new QHBoxLayout;
+    models_->setSpacing(12);
+    models_->addWidget(MakeModelCard("Cooling", "cooling", TableField::CLGDB), 1);
+    models_->addWidget(MakeModelCard("Heating", "heating", TableField::HTGDatabase), 1);
+    column->addLayout(models_);
     return box;
 }
 
@@ -167,6 +171,11 @@ QWidget* frmSumRptData::MakeModelCard(const char* heading, const char* side, Tab
         grid->addWidget(line, i + 1, 2);
     }
     return card;
+}
+
+void frmSumRptData::resizeEvent(QResizeEvent* event) {
+    Form::resizeEvent(event);
+    StackWhenNarrow(models_, width());
 }
 
 void frmSumRptData::Show(TableField field, const std::string& text) {

@@ -6,9 +6,11 @@
 #include "platform/qt/form.h"
 #include "pricing/price_fields.h"
 
+class QBoxLayout;
 class QGridLayout;
 class QLabel;
 class QToolButton;
+class QVBoxLayout;
 
 namespace tendo {
 
@@ -24,8 +26,11 @@ class frmSumRptData : public Form {
     /// Fills the fields from the records.
     void SetSystemTendos();
 
+    QSize sizeHint() const override;
+
   protected:
     void FormUnload() override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     QWidget* MakePrices();
@@ -41,9 +46,11 @@ class frmSumRptData : public Form {
     void WantWhy(TableField field);
     void chkHideInfo_Click();
 
+    QVBoxLayout* column_;
     std::map<TableField, TextField*> fields_;
     std::optional<TableField> edited_;  // while what it changes is shown
     SystemCards* cards_ = nullptr;
+    QBoxLayout* models_ = nullptr;  // the cooling and the heating model
     QLabel* lblLabor_ = nullptr;
     QLabel* fraModelInfo_ = nullptr;
 };

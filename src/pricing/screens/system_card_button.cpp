@@ -63,7 +63,7 @@ QSize SystemCardButton::sizeHint() const {
     const QFontMetrics head(NumberFont()), body(ModelFont());
     const int height =
         2 * margin + head.height() + 4 + mostModels * body.height() + (mostModels - 1) * lineGap;
-    return {std::max(minimumSizeHint().width(), body.averageCharWidth() * 28), height};
+    return {minimumSizeHint().width(), height};
 }
 
 QSize SystemCardButton::minimumSizeHint() const {
