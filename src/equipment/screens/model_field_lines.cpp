@@ -6,11 +6,10 @@
 #include <QScopedValueRollback>
 #include <QToolButton>
 
-#include "platform/qt/dialogs.h"
+#include "equipment/screens/model_field_help.h"
 #include "platform/qt/enhanced_input.h"
 #include "platform/qt/fields.h"
 #include "project/program_state.h"
-#include "project/screens/frm_help_info.h"
 
 namespace tendo {
 namespace {
@@ -20,7 +19,6 @@ constexpr int figureWidth = 8;  // characters that a field shows at least
 constexpr int shortWidth = 9;   // of two texts side by side
 constexpr int textWidth = 20;
 constexpr int longTextWidth = 34;  // of descriptions and file names
-constexpr const char* pricePrompt = "Please Enter the Model Cost:";  // of cost and price alike
 
 struct Style {
     EntryKind kind;
@@ -49,30 +47,6 @@ Style StyleOf(const ModelField& field) {
     }
 }
 
-bool HasHelp(const ModelField& field) {
-    return !field.choices.empty() || field.kind == ModelFieldKind::Money;
-}
-
-/// "Fuel Type" of "Fuel Type:".
-QString Spoken(const ModelField& field) {
-    return QString(field.label).remove('&').remove(':');
-}
-
-/// The choices below the field, at Alt+Down. Taking one commits it.
-QListWidget* MakeChoiceList(const ModelField& field, TextField* line) {
-    auto* list = new QListWidget(line);
-    list->setWindowFlag(Qt::Popup);
-    list->setObjectName(QString(field.name).replace("txt", "lst"));
-    list->setAccessibleName("Choices for " + Spoken(field));
-    for (const char* choice : field.choices)
-        list->addItem(choice);
-    // Queued, for the field takes the choice first.
-    for (const auto taken : {&QListWidget::itemActivated, &QListWidget::itemClicked})
-        QObject::connect(list, taken, line, &TextField::Commit, Qt::QueuedConnection);
-    list->setFixedHeight(list->sizeHintForRow(0) * list->count() + 2 * list->frameWidth() + 4);
-    return list;
-}
-
 /// What goes beyond the width of the record isn't kept, so it isn't shown either.
 void KeepWithin(QPlainTextEdit* memo, int width) {
     if (memo->toPlainText().size() <= width) return;
@@ -80,19 +54,6 @@ void KeepWithin(QPlainTextEdit* memo, int width) {
     rest.setPosition(width);
     rest.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
     rest.removeSelectedText();
-}
-
-/// What the choices' screen says of a field.
-HelpInfo ChoicesOf(const ModelField& field, const std::string& text) {
-    HelpInfo info;
-    info.title = Spoken(field).toStdString();
-    info.text = "Choose what the proposal is to say under \"" + info.title +
-                "\". Any other text can be typed into the field itself.";
-    for (const char* choice : field.choices) {
-        info.options.emplace_back(choice);
-        if (text == choice) info.option = static_cast<int>(info.options.size());
-    }
-    return info;
 }
 
 }  // namespace
@@ -126,7 +87,7 @@ void ModelFieldLines::Chain() {
 }
 
 QString ModelFieldLines::SpokenName(const ModelField& field) const {
-    return side_.isEmpty() ? Spoken(field) : Spoken(field) + ", " + side_;
+    return side_.isEmpty() ? SpokenLabel(field) : SpokenLabel(field) + ", " + side_;
 }
 
 void ModelFieldLines::Add(const ModelField& field, QGridLayout* grid, int row, int column, int span,
@@ -222,25 +183,9 @@ void ModelFieldLines::Commit(const ModelField& field, const QString& text) {
 }
 
 void ModelFieldLines::WantHelp(const ModelField& field, TextField* line) {
-    if (field.kind == ModelFieldKind::Money)
-        WantPrice(field, line);
-    else
-        WantChoice(field, line);
-}
-
-void ModelFieldLines::WantPrice(const ModelField& field, TextField* line) {
-    const std::string prompt = std::string(field.help) + "\n\n" + pricePrompt;
-    const auto typed =
-        Dialogs().Input({Spoken(field).toStdString(), prompt, line->text().toStdString()});
-    if (!typed) return;
-    line->ShowText(QString::fromStdString(*typed));
-    line->Commit();
-}
-
-void ModelFieldLines::WantChoice(const ModelField& field, TextField* line) {
-    HelpInfo info = ChoicesOf(field, line->text().toStdString());
-    if (!ShowHelpInfo(info) || info.option == 0) return;
-    line->ShowText(field.choices[static_cast<std::size_t>(info.option - 1)]);
+    const auto text = AskForText(field, line->text().toStdString());
+    if (!text) return;
+    line->ShowText(QString::fromStdString(*text));
     line->Commit();
 }
 

@@ -57,8 +57,6 @@ class ModelFieldLines : public QObject {
     void ShowLine(const Line& line);
     void Commit(const ModelField& field, const QString& text);
     void WantHelp(const ModelField& field, TextField* line);
-    void WantPrice(const ModelField& field, TextField* line);
-    void WantChoice(const ModelField& field, TextField* line);
 
     std::vector<Line> lines_;
     QString side_;
