@@ -121,7 +121,7 @@ void frmMatCosts::AddListChoice() {
     lists_->setObjectName("ComboSelectMatList");
     lists_->setAccessibleName("Material list to apply");
     lists_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    lists_->setMinimumContentsLength(18);
+    lists_->setMinimumContentsLength(14);
     page_->AddToTopBar(MakeLabel("Appl&y list:", lists_, page_));
     page_->AddToTopBar(lists_);
     connect(lists_, &QComboBox::textActivated, this, &frmMatCosts::ComboSelectMatList_Click);

@@ -31,9 +31,9 @@ constexpr const char* percentRange = "-999.9 to 999.9";
 constexpr FieldPlan plans[] = {
     {Field::ItemQty, "txtItemQty", "Quantity", EntryKind::Text, 5, 0, "0 to 32,767",
      "pieces; arithmetic is understood: 2*7"},
-    {Field::ItemDesc, "txtItemDesc", "Description", EntryKind::Label, 19, 1},
-    {Field::PartNum, "txtPartNum", "Part number", EntryKind::Label, 19, 1},
-    {Field::Category, "txtCategory", "Category", EntryKind::Label, 11, 2},
+    {Field::ItemDesc, "txtItemDesc", "Description", EntryKind::Label, 17, 1},
+    {Field::PartNum, "txtPartNum", "Part number", EntryKind::Label, 17, 1},
+    {Field::Category, "txtCategory", "Category", EntryKind::Label, 9, 2},
     {Field::UnitCost, "txtUnitCost", "Unit cost", EntryKind::Figure, 9, 5},
     {Field::QtyCost, "txtQtyCost", "Cost of the line", EntryKind::Figure, 11, 6},
     {Field::GrossMargin, "txtGrossMargin", "Gross margin", EntryKind::Percent, 6, 7, percentRange,

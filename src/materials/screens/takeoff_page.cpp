@@ -132,7 +132,7 @@ QWidget* TakeoffPage::MakeSearchBar() {
     categories_->setObjectName("ComboSelectCategory");
     categories_->setAccessibleName("Category");
     categories_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    categories_->setMinimumContentsLength(20);
+    categories_->setMinimumContentsLength(14);
     connect(categories_, &QComboBox::textActivated, this, &TakeoffPage::CategoryChosen);
     bar->addWidget(MakeLabel("&Jump to:", jump, box));
     bar->addWidget(jump, 1);
