@@ -1,8 +1,11 @@
+#include <algorithm>
+#include <cerrno>
 #include <filesystem>
 
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
 #include "platform/files/settings_store.h"
+#include "platform/files/system_calls.h"
 #include "platform/text/text.h"
 #include "price_book_fixture.h"
 
@@ -166,6 +169,25 @@ TEST_F(PriceBookOnDisk, AWriteThatFailsKeepsTheFileAndTheChangesAndIsToldOnce) {
     EXPECT_TRUE(book.HasUnwrittenChanges());
     EXPECT_TRUE(book.Write());
     EXPECT_EQ(book.WriteFailure(), "");
+    EXPECT_EQ(OnDisk("Materials", "Description"), "Boot, round|Elbow");
+}
+
+TEST_F(PriceBookOnDisk, ADiskThatFillsUpHalfWayKeepsTheOldFileWhole) {
+    const std::string before = ReadWholeFile(File());
+    Type("Boot, round");
+    static int calls;
+    calls = 0;
+    SystemCalls().write = [](int file, const void* bytes, size_t size) -> ssize_t {
+        if (++calls == 1) return ::write(file, bytes, std::min<size_t>(size, 5000));
+        errno = ENOSPC;
+        return -1;
+    };
+    EXPECT_FALSE(book.Write());
+    SystemCalls() = SystemCallTable();
+    EXPECT_GT(calls, 1);
+    EXPECT_TRUE(Contains(Told(), "the disk is full"));
+    EXPECT_EQ(ReadWholeFile(File()), before);
+    EXPECT_TRUE(book.Write());
     EXPECT_EQ(OnDisk("Materials", "Description"), "Boot, round|Elbow");
 }
 

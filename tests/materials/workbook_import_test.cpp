@@ -1,6 +1,10 @@
 #include "materials/workbook_import.h"
 
+#include <cerrno>
+
 #include "materials/material_catalogue.h"
+#include "platform/files/safe_file.h"
+#include "platform/files/system_calls.h"
 #include "platform/office/read_workbook.h"
 #include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
@@ -167,6 +171,17 @@ TEST_F(WorkbookImportTest, ACancelledImportChangesNothingOnDisk) {
         EXPECT_FALSE(Import(Sheet(rows), true));
         EXPECT_EQ(OnDisk("Materials", "Description"), "Old") << stop;
     }
+}
+
+TEST_F(WorkbookImportTest, AnImportThatCannotBeWrittenChangesNothingOnDisk) {
+    const std::string before = ReadWholeFile(File());
+    SystemCalls().write = [](int, const void*, size_t) -> ssize_t {
+        errno = ENOSPC;
+        return -1;
+    };
+    EXPECT_THROW(Import(Sheet({heading, {"A", "One", "1", "2"}}), true), RuntimeError);
+    SystemCalls() = SystemCallTable();
+    EXPECT_EQ(ReadWholeFile(File()), before);
 }
 
 TEST_F(WorkbookImportTest, MoreMaterialsThanATakeoffCanLoadAreToldBefore) {

@@ -79,11 +79,20 @@ frmEditMaterials::frmEditMaterials()
     column->addLayout(middle, 1);
     column->addWidget(MakeSearchRow());
     column->addWidget(MakeCommandRow());
+    setFocusProxy(DBGridMaterials_);
+    ConnectGrid();
+    StartTimers();
+    State().MaterialDatabaseHeld = true;
+    const Hourglass hourglass;
+    book_.Open();
+    ShowRows();
+}
+
+void frmEditMaterials::ConnectGrid() {
     connect(DBGridMaterials_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &frmEditMaterials::DBGridMaterials_RowColChange);
     connect(DBGridMaterials_->horizontalHeader(), &QHeaderView::sectionClicked, this,
             [this](int head) { RunCommand([this, head] { book_.SortBy(head); }); });
-    DBGridMaterials_->horizontalHeader()->setSectionsClickable(true);
     connect(DBGridMaterials_, &QTableView::pressed, this, [this] {
         book_.ClickCell();
         ShowTexts();
@@ -93,6 +102,9 @@ frmEditMaterials::frmEditMaterials()
             &frmEditMaterials::DBLCategory_Click);
     connect(DBLCategory_, &QListWidget::itemClicked, this,
             [this] { DBLCategory_Click(DBLCategory_->currentRow()); });
+}
+
+void frmEditMaterials::StartTimers() {
     tmrWriteBook_.setObjectName("tmrWriteBook");
     tmrWriteBook_.setSingleShot(true);
     tmrWriteBook_.setInterval(writeDelay);
@@ -100,11 +112,6 @@ frmEditMaterials::frmEditMaterials()
     tmrLookAtBook_.setObjectName("tmrLookAtBook");
     connect(&tmrLookAtBook_, &QTimer::timeout, this, &frmEditMaterials::ReadAgainIfChanged);
     tmrLookAtBook_.start(lookInterval);
-    setFocusProxy(DBGridMaterials_);
-    State().MaterialDatabaseHeld = true;
-    const Hourglass hourglass;
-    book_.Open();
-    ShowRows();
 }
 
 QSize frmEditMaterials::sizeHint() const {

@@ -47,6 +47,8 @@ class frmEditMaterials : public Form {
                             void (frmEditMaterials::*click)());
     void FitColumns();
 
+    void ConnectGrid();
+    void StartTimers();
     void ShowBook();
     void ShowRows();
     void ShowCurrentRow();

@@ -85,6 +85,7 @@ QWidget* frmEditMaterials::MakeGrid() {
     view->verticalHeader()->setFixedWidth(fontMetrics().averageCharWidth() * 3);
     view->verticalHeader()->setSectionsClickable(false);
     view->verticalHeader()->setHighlightSections(false);
+    view->horizontalHeader()->setSectionsClickable(true);
     view->horizontalHeader()->setHighlightSections(false);
     view->horizontalHeader()->setMinimumSectionSize(40);
     view->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
