@@ -104,6 +104,46 @@ class Trial:
         self.faults.append(f'{name} {os.path.basename(file)}: {text}')
 
 
+def damaged_books(source):
+    """(name, bytes) of one whole workbook: cut short, and with bytes turned over."""
+    data = open(source, 'rb').read()
+    for length in (0, 1, 8, 100, 512, len(data) // 2, len(data) - 1):
+        yield f'cut-{length}', data[:length]
+    generator = random.Random(4)
+    for number in range(40):
+        changed = bytearray(data)
+        for _ in range(8):
+            changed[generator.randrange(len(data))] = generator.randrange(256)
+        yield f'flips-{number}', bytes(changed)
+
+
+def import_damaged(trial, share, work):
+    """Damaged workbooks into a whole price book, and a whole one into damaged price books."""
+    books = os.path.join(os.path.dirname(os.path.abspath(__file__)), '..', 'data', 'office')
+    target = os.path.join(work, 'prices.mdb')
+    for base in ('parts.xls', 'parts.xlsx'):
+        for kind, data in damaged_books(os.path.join(books, base)):
+            shutil.copy(os.path.join(share, 'blank.mdb'), target)
+            file = os.path.join(work, f'{kind}-{base}')
+            with open(file, 'wb') as out:
+                out.write(data)
+            refused = trial.refused
+            trial.run('prices', ['prices', 'FILE', '--into', target], file, MAY_PASS)
+            if trial.refused > refused and open(target, 'rb').read() != open(os.path.join(share, 'blank.mdb'), 'rb').read():
+                trial.fault('prices', file, 'was refused but changed the price book')
+            os.remove(file)
+    os.remove(target)
+    sheet = os.path.join(books, 'parts.xls')
+    for kind, data, expected in damaged(os.path.join(share, 'tendo.mdb'), 10):
+        if expected != FAILS:
+            continue
+        file = os.path.join(work, f'{kind}-tendo.mdb')
+        with open(file, 'wb') as out:
+            out.write(data)
+        trial.run('prices', ['prices', sheet, '--into', 'FILE', '--replace'], file, FAILS)
+        os.remove(file)
+
+
 def main():
     program, share, work = sys.argv[1:]
     shutil.rmtree(work, ignore_errors=True)
@@ -123,6 +163,7 @@ def main():
             os.chmod(file, 0o444)
             trial.run('check', commands(table)['check'], file, expected)
             os.remove(file)
+    import_damaged(trial, share, work)
     for name, words in commands('Materials').items():
         trial.run(name, words, os.path.join(work, 'missing.tdw'), FAILS)
         trial.run(name, words, work, FAILS)
