@@ -98,7 +98,7 @@ QWidget* frmSumRptData::MakePrices() {
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
+    grid->setVerticalSpacing(5);
     grid->addWidget(MakeHeading("Sale prices", box), 0, 0, 1, 2);
     int at = 0;
     for (const PriceRow& row : priceRows) {
@@ -159,7 +159,7 @@ QWidget* frmSumRptData::MakeModelCard(const char* heading, const char* side, Tab
     auto* grid = new QGridLayout(card);
     grid->setContentsMargins(14, 10, 14, 12);
     grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
+    grid->setVerticalSpacing(5);
     auto* title = new QLabel(heading, card);
     title->setStyleSheet("font-weight: bold; border: 0");
     grid->addWidget(title, 0, 0, 1, 3);
