@@ -17,6 +17,8 @@
 #include "app/screens/frm_temp_file.h"
 #include "app/screens/screen_table.h"
 #include "equipment/screens/frm_model_selection.h"
+#include "materials/screens/frm_labor_list.h"
+#include "materials/screens/frm_mat_list.h"
 #include "project/screens/frm_help_info.h"
 #include "reports/screens/frm_owner.h"
 #include "reports/screens/frm_preview.h"
@@ -53,6 +55,8 @@ const Opening openings[] = {
          QStringList hidden;
          AskHiddenTools(hidden);
      }},
+    {"frmLaborList", [] { MakeLaborListEditor("Boiler replacement", false)->ShowForm(); }},
+    {"frmMatList", [] { MakeMaterialListEditor("Comfort package", false)->ShowForm(); }},
     {"frmSplash", [] { (new frmSplash([] {}))->ShowLogo(); }},
 };
 

@@ -1,6 +1,5 @@
 #include "materials/screens/frm_labor_costs.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QRadioButton>
@@ -21,28 +20,28 @@ namespace tendo {
 frmLaborCosts::frmLaborCosts()
     : LaborScreen("frmLaborCosts", "Labor Costs for All Systems", Project().ProjectLabor) {
     AddTaxChoice();
+    AddLines();
     AddButton("btnEditAddDeleteLaborList", "Edit lists…",
               [] { ShowListAddDelete(ListKind::Labor); });
     Page().ShowRows();
     ShowTaxLabor();
-    OrderTabs();
 }
 
 void frmLaborCosts::AddTaxChoice() {
     const auto option = [this](const char* name, const char* caption, bool tax) {
-        auto* made = new QRadioButton(caption, this);
+        auto* made = new QRadioButton(caption, Content());
         made->setObjectName(name);
         connect(made, &QRadioButton::clicked, this, [this, tax] { SetTaxLabor(tax); });
         return made;
     };
     OptTaxYes_ = option("OptTaxYes", "Yes", true);
     OptTaxNo_ = option("OptTaxNo", "No", false);
-    QToolButton* help = MakeHelpButton("btnTaxLabor", "About taxing labor", this);
+    QToolButton* help = MakeHelpButton("btnTaxLabor", "About taxing labor", Content());
     connect(help, &QToolButton::clicked, this, &frmLaborCosts::btnTaxLabor_Click);
-    int at = 0;
-    for (QWidget* widget : std::initializer_list<QWidget*>{
-             MakeLabel("&Tax labor", OptTaxYes_, this), OptTaxYes_, OptTaxNo_, help})
-        TopRow()->insertWidget(at++, widget);
+    for (QWidget* control : {static_cast<QWidget*>(MakeLabel("&Tax labor", OptTaxYes_, Content())),
+                             static_cast<QWidget*>(OptTaxYes_), static_cast<QWidget*>(OptTaxNo_),
+                             static_cast<QWidget*>(help)})
+        AddToTop(control);
 }
 
 void frmLaborCosts::Edited() {

@@ -1,6 +1,5 @@
 #include "materials/screens/frm_labor_list.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -23,6 +22,8 @@ constexpr int nameWidth = 30;  // characters
 frmLaborList::frmLaborList(const std::string& name, bool isNew)
     : LaborScreen("frmLaborList", "Labor List for All Systems", LaborListEdit()), changed_(isNew) {
     AddName(name);
+    AddLines();
+    nameInput_->ReturnControl = nameInput_->DownControl = focusProxy();
     QPushButton* copy = AddButton("btnCopyProjectLabor", "Copy the &project's labor",
                                   [this] { btnCopyProjectLabor_Click(); });
     copy->setEnabled(State().ProjectIsOpen);
@@ -30,21 +31,19 @@ frmLaborList::frmLaborList(const std::string& name, bool isNew)
         btnSaveList_Click();
     })->setProperty("primary", true);
     Page().ShowListRows();
-    OrderTabs();
 }
 
 void frmLaborList::AddName(const std::string& name) {
     const FieldSpec spec{
         .name = "txtListName", .label = "List &name", .width = nameWidth, .maxLength = longestName};
-    txtListName_ = new TextField(spec, this);
+    txtListName_ = new TextField(spec, Content());
     txtListName_->ShowText(QString::fromStdString(name));
     auto validator = std::make_shared<InputValidator>();
     validator->MaxTextLength = longestName;
-    auto* input = new EnhancedInput(txtListName_, validator);
-    input->ReturnControl = input->DownControl = focusProxy();
+    nameInput_ = new EnhancedInput(txtListName_, validator);
     connect(txtListName_, &QLineEdit::textEdited, this, [this] { Edited(); });
-    TopRow()->insertWidget(0, MakeLabel(spec.label, txtListName_, this));
-    TopRow()->insertWidget(1, txtListName_);
+    AddToTop(MakeLabel(spec.label, txtListName_, Content()));
+    AddToTop(txtListName_);
 }
 
 void frmLaborList::ReadList(const std::string& name) {

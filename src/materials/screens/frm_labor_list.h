@@ -4,10 +4,9 @@
 
 #include "materials/screens/labor_screen.h"
 
-class QLineEdit;
-
 namespace tendo {
 
+class EnhancedInput;
 class TextField;
 
 /// Labor List for All Systems: the editor of a named labor list.
@@ -30,6 +29,7 @@ class frmLaborList : public LaborScreen {
     void btnCopyProjectLabor_Click();
 
     TextField* txtListName_ = nullptr;
+    EnhancedInput* nameInput_ = nullptr;
     bool changed_;  // since it was read or saved; a new list is from the start
 };
 

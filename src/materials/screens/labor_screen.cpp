@@ -40,17 +40,25 @@ LaborScreen::LaborScreen(const QString& name, const QString& caption, std::vecto
     column->setSpacing(14);
     column->addLayout(top_ = new QHBoxLayout);
     top_->setSpacing(8);
+    setMinimumSize(520, 320);
+}
+
+void LaborScreen::AddToTop(QWidget* control) {
+    top_->addWidget(control);
+}
+
+void LaborScreen::AddLines() {
+    AddListChoice();
+    auto* column = static_cast<QVBoxLayout*>(content_->layout());
     lines_ = new LaborRows(page_, content_);
+    connect(lines_, &LaborRows::Edited, this, [this] { Edited(); });
     column->addWidget(lines_);
     column->addLayout(bottom_ = new QHBoxLayout);
     bottom_->setSpacing(8);
     bottom_->addStretch();
     column->addStretch();
-    connect(lines_, &LaborRows::Edited, this, [this] { Edited(); });
-    AddListChoice();
     AddButton("btnClear", "&Clear all lines", [this] { btnClear_Click(); });
     setFocusProxy(lines_->At(0, LaborField::QtyHrs));
-    setMinimumSize(520, 320);
 }
 
 QSize LaborScreen::sizeHint() const {
@@ -67,20 +75,6 @@ QPushButton* LaborScreen::AddButton(const char* name, const char* caption,
     });
     bottom_->insertWidget(bottom_->count() - 1, button);
     return button;
-}
-
-void LaborScreen::OrderTabs() {
-    QWidget* last = nullptr;
-    const auto add = [&last](QWidget* next) {
-        if (last && next) setTabOrder(last, next);
-        if (next) last = next;
-    };
-    for (int i = 0; i < top_->count(); ++i)
-        add(top_->itemAt(i)->widget());
-    for (TextField* entry : lines_->findChildren<TextField*>())
-        add(entry);
-    for (int i = 0; i < bottom_->count(); ++i)
-        add(bottom_->itemAt(i)->widget());
 }
 
 void LaborScreen::AddListChoice() {

@@ -25,14 +25,15 @@ class LaborScreen : public Form {
     LaborScreen(const QString& name, const QString& caption, std::vector<LaborRow>& rows);
 
     LaborPage& Page() { return page_; }
-    /// Rows for what a screen has of its own, above and below the lines.
-    QHBoxLayout* TopRow() { return top_; }
-    QHBoxLayout* BottomRow() { return bottom_; }
+    /// Puts a control above the lines; to be done before `AddLines`, for Tab follows the order in
+    /// which controls are made.
+    void AddToTop(QWidget* control);
+    /// The choice of a list, the lines, and the buttons below them.
+    void AddLines();
+    /// What holds all controls.
+    QWidget* Content() { return content_; }
     QPushButton* AddButton(const char* name, const char* caption,
                            const std::function<void()>& click);
-
-    /// Lets Tab follow the eye; the last step of building a screen.
-    void OrderTabs();
 
     /// Reads a list into the rows behind the screen.
     virtual void ReadList(const std::string& name) = 0;
