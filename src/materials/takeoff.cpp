@@ -101,9 +101,13 @@ void Takeoff::FillPage() {
 
 void Takeoff::StoreLine(int row) {
     if (!Line(row).IsEdited() || top_ + row >= Count()) return;
+    const auto at = static_cast<std::size_t>(top_ + row);
+    // A catalogue that was loaded anew may be shorter than the view that was built on it.
+    if (view_ != TakeoffView::All && static_cast<std::size_t>(places_.at(at)) >= catalogue_.size())
+        return;
     MaterialRow& behind = RowBehind(top_ + row);
     Line(row).Store(behind);
-    if (view_ != TakeoffView::All) selected_.at(static_cast<std::size_t>(top_ + row)) = behind;
+    if (view_ != TakeoffView::All) selected_.at(at) = behind;
 }
 
 void Takeoff::Store() {

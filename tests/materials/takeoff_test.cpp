@@ -307,6 +307,16 @@ TEST_F(TakeoffTest, AViewDoesNotBuildWhileOneIsBuilding) {
     EXPECT_EQ(takeoff.View(), TakeoffView::Materials);
 }
 
+TEST_F(TakeoffTest, AnEditInAViewOfACatalogueThatBecameShorterIsDropped) {
+    Select(33, 2);
+    takeoff.Show(TakeoffView::Both);
+    book.resize(10);
+    Enter(0, Field::ItemQty, "5");
+    takeoff.Show(TakeoffView::All);
+    EXPECT_EQ(takeoff.Count(), 10);
+    EXPECT_TRUE(SelectedMaterials(book).empty());
+}
+
 TEST_F(TakeoffTest, ARowChangedBehindThePageIsShownAfterARefill) {
     takeoff.Line(0).SetText(Field::ItemQty, "9");
     Select(1, 2);

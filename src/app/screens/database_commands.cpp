@@ -3,9 +3,11 @@
 #include "app/database_repair.h"
 #include "app/screens/pointer.h"
 #include "materials/material_catalogue.h"
+#include "materials/screens/frm_mat_costs.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
 #include "platform/qt/dialogs.h"
+#include "platform/qt/form.h"
 #include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
 #include "project/program_state.h"
@@ -29,6 +31,13 @@ void ExportTo(const std::string& target) {
     ShowMessage(title, "Export complete.");
 }
 
+/// An open takeoff goes over into the book.
+void LoadPriceBookAnew() {
+    Form::StoreAllFields();
+    LoadMaterialCatalogue();
+    ReloadMaterialTakeoff();
+}
+
 void ImportFrom(const std::string& source) {
     if (!FileExists(source)) return ShowMessage(title, "Import failed.");
     const std::string& database = State().MaterialDatabaseName;
@@ -38,7 +47,7 @@ void ImportFrom(const std::string& source) {
         CopyFileOver(database, stem + "mdb.old");
     }
     CopyFileOver(source, database);
-    LoadMaterialCatalogue();
+    LoadPriceBookAnew();
     NormalPointer();
     ShowMessage(title, "Import complete.");
 }
@@ -49,7 +58,7 @@ void mnuRepairTendoDatabase_Click() {
     HourglassPointer();
     try {
         RepairDatabase(State().MaterialDatabaseName);
-        LoadMaterialCatalogue();
+        LoadPriceBookAnew();
         NormalPointer();
         ShowMessage(title, "Database repaired.");
     } catch (const RuntimeError& error) {

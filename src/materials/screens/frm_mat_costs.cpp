@@ -96,7 +96,7 @@ frmMatCosts::frmMatCosts() : Form("frmMatCosts", caption, Place::Child, "frmMatC
 
 QSize frmMatCosts::sizeHint() const {
     constexpr int scrollBar = 24;
-    return {content_->minimumSizeHint().width() + scrollBar, content_->sizeHint().height()};
+    return {content_->sizeHint().width() + scrollBar, content_->sizeHint().height()};
 }
 
 QWidget* frmMatCosts::MakeDatabaseBar() {
@@ -179,6 +179,11 @@ void frmMatCosts::TakeUpPriceBook() {
     txtDatabase_->setText(database);
 }
 
+void frmMatCosts::CatalogueReplaced() {
+    loaded_ = false;  // there is nothing in it to commit
+    DatabaseChanged();
+}
+
 void frmMatCosts::FillLists() {
     lists_->clear();
     lists_->addItem(noList);
@@ -251,6 +256,11 @@ void frmMatCosts::FormUnload() {
 void RefillMaterialTakeoff() {
     if (auto* screen = qobject_cast<frmMatCosts*>(Form::Find("frmMatCosts")))
         screen->TakeUpPriceBook();
+}
+
+void ReloadMaterialTakeoff() {
+    if (auto* screen = qobject_cast<frmMatCosts*>(Form::Find("frmMatCosts")))
+        screen->CatalogueReplaced();
 }
 
 }  // namespace tendo

@@ -21,6 +21,9 @@ class frmMatCosts : public Form {
     /// Reads the price book anew and enters the selections into it: another screen has changed the
     /// materials, or the catalogue in memory.
     void TakeUpPriceBook();
+    /// The catalogue in memory was loaded anew and holds no selections: enters those that the
+    /// project's records hold.
+    void CatalogueReplaced();
 
   protected:
     void StoreFields() override;
@@ -49,5 +52,7 @@ class frmMatCosts : public Form {
 
 /// After another screen worked on the catalogue or its file; nothing when the takeoff isn't open.
 void RefillMaterialTakeoff();
+/// After the catalogue was loaded anew behind an open takeoff, whose fields were stored before.
+void ReloadMaterialTakeoff();
 
 }  // namespace tendo

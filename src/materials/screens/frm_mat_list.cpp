@@ -87,7 +87,7 @@ frmMatList::frmMatList(const std::string& name, bool isNew, std::vector<Material
 
 QSize frmMatList::sizeHint() const {
     constexpr int scrollBar = 24;
-    return {content_->minimumSizeHint().width() + scrollBar, content_->sizeHint().height()};
+    return {content_->sizeHint().width() + scrollBar, content_->sizeHint().height()};
 }
 
 void frmMatList::AddName(const std::string& name) {

@@ -79,6 +79,12 @@ TakeoffPage::~TakeoffPage() {
     delete grid_;  // it refers to the takeoff, which goes before the child widgets
 }
 
+QSize TakeoffPage::sizeHint() const {
+    constexpr int moreCharacters = 20;
+    return {minimumSizeHint().width() + moreCharacters * fontMetrics().averageCharWidth(),
+            QWidget::sizeHint().height()};
+}
+
 QPushButton* TakeoffPage::MakeButton(const char* name, const char* caption, const char* tip) {
     auto* button = new QPushButton(caption, this);
     button->setObjectName(name);

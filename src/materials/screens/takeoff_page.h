@@ -25,6 +25,8 @@ class TakeoffPage : public QWidget {
                 bool keepsTitle = false);
     ~TakeoffPage() override;
 
+    /// Wide enough for whole descriptions and categories; the entry lines' own hints ask for more.
+    QSize sizeHint() const override;
     Takeoff& Rows() { return takeoff_; }
     /// Puts a screen's own controls behind the view buttons, and in front of the buttons below.
     void AddToTopBar(QWidget* widget);
