@@ -39,8 +39,11 @@ void ViewPort::closeEvent(QCloseEvent* event) {
 
 void ViewPort::ShowFocus(QWidget* focus) {
     constexpr int margin = 8;
-    if (focus && widget() && widget()->isAncestorOf(focus))
-        ensureWidgetVisible(focus, margin, margin);
+    if (!focus || !widget() || !widget()->isAncestorOf(focus)) return;
+    ensureWidgetVisible(focus, margin, margin);
+    // Labels stand at the left; they are seen whenever the field is seen with them.
+    const int right = focus->mapTo(widget(), QPoint(focus->width(), 0)).x();
+    if (right <= viewport()->width()) horizontalScrollBar()->setValue(0);
 }
 
 }  // namespace tendo

@@ -375,6 +375,19 @@ TEST_F(MainWindow, WindowsAreCascadedTiledAndTheirIconsArranged) {
     EXPECT_FALSE(first->geometry().intersects(second->geometry()));
 }
 
+TEST_F(MainWindow, TheLabelOfAFieldIsSeenWithItWhereThereIsRoomForBoth) {
+    ActiveBarClick("ToolNew");
+    Form* form = Form::Find("frmGPD");
+    form->SubWindow()->resize(460, 300);
+    QApplication::processEvents();
+    auto* port = form->SubWindow()->findChild<QScrollArea*>("View_Port");
+    form->Control("txtProjectTitle")->setFocus();
+    port->horizontalScrollBar()->setValue(40);
+    form->Control("txtLaborRate")->setFocus();
+    QApplication::processEvents();
+    EXPECT_EQ(port->horizontalScrollBar()->value(), 0);
+}
+
 TEST_F(MainWindow, TheTitleOfAScreensWindowFollowsTheScreen) {
     ActiveBarClick("ToolNew");
     Form* form = Form::Find("frmGPD");
