@@ -78,19 +78,21 @@ std::vector<SmallTable> EmptyModelTables() {
                                                  "PartsWarranty:t",
                                                  "CoilWarranty:t",
                                                  "LaborWarranty:t"};
-    const std::vector<std::string> unit = Joined(head, compressor);
+    // As manufacturers order them: what a model is sold by comes first.
+    const auto unit = [&](const std::vector<std::string>& own) {
+        return Joined(Joined(head, own), compressor);
+    };
     return {{"AC File",
-             Joined(unit,
-                    {"Capacity:s", "Seer:s", "Eer:s", "COP:s", "CompStartKit:t", "HILOPressure:t"}),
+             unit({"Capacity:s", "Seer:s", "Eer:s", "COP:s", "CompStartKit:t", "HILOPressure:t"}),
              {}},
             {"HP File",
-             Joined(unit, {"CoolCapacity:s", "Seer:s", "HPCap5:s", "HSPF:s", "Eer:s", "CoolCOP:s",
-                           "CompressorStartKit:t", "HILOPressureSwitch:t", "MicroprocWarranty:t"}),
+             unit({"CoolCapacity:s", "Seer:s", "HPCap5:s", "HSPF:s", "Eer:s", "CoolCOP:s",
+                   "CompressorStartKit:t", "HILOPressureSwitch:t", "MicroprocWarranty:t"}),
              {}},
             {"GS HP File",
-             Joined(unit, {"CoolingCapacity:s", "CoolingEER:s", "HeatingCapacity:s", "HPCap5:s",
-                           "HSPF:s", "HeatingCOP:s", "COP:s", "ARICFM:i", "CompStartKit:t",
-                           "HILOPressure:t", "MicroprocWarranty:t"}),
+             unit({"CoolingCapacity:s", "CoolingEER:s", "HeatingCapacity:s", "HPCap5:s", "HSPF:s",
+                   "HeatingCOP:s", "COP:s", "ARICFM:i", "CompStartKit:t", "HILOPressure:t",
+                   "MicroprocWarranty:t"}),
              {}},
             {"GAMA File",
              Joined(head,
