@@ -20,6 +20,11 @@ bool TakeoffPages(const std::string& folder);
 /// A workbook of 10,000 rows into a price book; skipped, and said so, without LibreOffice.
 bool WorkbookImportSpeed(const std::string& folder);
 
+/// From the start of the program to the first paint of its main window, beside a program that has
+/// nothing but such a window; tells the memory of both, and how long each screen takes to open.
+/// `programs`: the folder of the built programs.
+bool StartTime(const std::string& folder, const std::string& programs);
+
 /// The model selection on a database of 40,000 air conditioners. Needs the QApplication.
 bool ModelSelectionScreen(const std::string& folder);
 

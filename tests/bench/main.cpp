@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <cstdio>
 #include <exception>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -21,8 +22,11 @@ int main(int argc, char** argv) {
         bool needsQt;
         std::function<bool()> run;
     };
-    // Those without Qt come first: the children of a memory measurement stay small then.
+    // A child's peak counts what its parent held before: the start comes first, while that is
+    // little, and those that need no Qt before the others.
+    const std::string programs = std::filesystem::path(argv[0]).parent_path().string();
     const Measurement measurements[] = {
+        {"start", false, [&] { return StartTime(folder, programs); }},
         {"read", false, [&] { return ModelDatabaseRead(folder); }},
         {"save", false, [&] { return ProjectSave(folder); }},
         {"price", false, PriceCommit},

@@ -10,11 +10,18 @@
 #include <QSet>
 #include <QTabBar>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "screens.h"
 
 namespace tendo {
 namespace {
+
+/// Above it, or left of it on one line.
+bool MeetsEyeBefore(const QRect& one, const QRect& other) {
+    const bool oneLine = one.top() <= other.bottom() && other.top() <= one.bottom();
+    return oneLine ? one.left() < other.left() : one.top() < other.top();
+}
 
 /// The controls in the order in which Tab leads through them.
 QList<QWidget*> TabOrder(Form& form) {
@@ -27,6 +34,11 @@ QList<QWidget*> TabOrder(Form& form) {
             order << widget;
         widget = widget->nextInFocusChain();
     } while (widget != &form);
+    // Tab goes round; the round is read from the control that the eye meets first.
+    auto first = order.begin();
+    for (auto other = order.begin(); other != order.end(); ++other)
+        if (MeetsEyeBefore(PlaceOn(*other, &form), PlaceOn(*first, &form))) first = other;
+    std::rotate(order.begin(), first, order.end());
     return order;
 }
 

@@ -80,11 +80,12 @@ bool IsPart(const QWidget* widget) {
     return false;
 }
 
-bool IsOf(const QWidget* widget, const Form& form) {
-    const QWidget* screen = widget->parentWidget();
-    while (screen && !qobject_cast<const Form*>(screen))
-        screen = screen->parentWidget();
-    return screen == &form;
+/// TENDO_TEST_PICTURES names a folder for pictures of all screens, to look at.
+void TakePicture(Form& form) {
+    const QString folder = qEnvironmentVariable("TENDO_TEST_PICTURES");
+    if (folder.isEmpty()) return;
+    QWidget* window = form.SubWindow() ? form.SubWindow() : static_cast<QWidget*>(&form);
+    window->grab().save(folder + "/" + form.Name() + ".png");
 }
 
 }  // namespace
@@ -108,6 +109,7 @@ void Screens::Visit(const QString& name, const std::function<void()>& open,
         if (form.Name() != name) return;
         QApplication::processEvents();
         seen = true;
+        TakePicture(form);
         check(form);
     };
     Form::SetModalObserver([&](Form& form) {
@@ -142,6 +144,13 @@ void Screens::ForEachPage(Form& form, const std::function<void()>& check) {
             QApplication::processEvents();
             check();
         }
+}
+
+bool IsOf(const QWidget* widget, const Form& form) {
+    const QWidget* screen = widget->parentWidget();
+    while (screen && !qobject_cast<const Form*>(screen))
+        screen = screen->parentWidget();
+    return screen == &form;
 }
 
 QList<QWidget*> ControlsOf(const Form& form) {

@@ -28,6 +28,9 @@ class Screens : public RunningProgram {
 /// lists, tabs; no parts of other controls.
 QList<QWidget*> ControlsOf(const Form& form);
 
+/// The control is the screen's own and not that of a screen within it.
+bool IsOf(const QWidget* widget, const Form& form);
+
 /// "txtName (the text of its label)", for messages.
 std::string Told(const QWidget* control);
 

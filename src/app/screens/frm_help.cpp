@@ -147,7 +147,7 @@ QWidget* frmHelp::MakeSide() {
     lstPages_->setObjectName("lstPages");
     lstPages_->setAccessibleName("Pages of the guide");
     lstPages_->setWordWrap(true);
-    lstPages_->setStyleSheet("QListView::item { padding: 6px 8px; }");
+    lstPages_->setStyleSheet("QListView::item { padding: 6px 8px; border: 0; }");
     lstPages_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     rows->addWidget(txtSearch_);
     rows->addWidget(lblFound_);

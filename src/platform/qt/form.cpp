@@ -8,6 +8,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStyle>
 #include <QTimer>
 
@@ -16,6 +17,7 @@
 #include "platform/qt/fields.h"
 #include "platform/qt/mnemonics.h"
 #include "platform/qt/spoken_names.h"
+#include "platform/qt/tab_order.h"
 #include "platform/qt/view_port.h"
 #include "platform/text/runtime_error.h"
 
@@ -76,12 +78,22 @@ void Form::MakeSubWindow() {
 void Form::PrepareControls() {
     if (place_ == Place::Main || place_ == Place::Free) return;
     NameControls(this);
+    OrderTabsByLayout(this);
     const bool besideMenus = place_ == Place::Child && workspace;
     AssignMnemonics(this, besideMenus ? MenuBarLetters(workspace) : QString());
     // Only the style sheet tells what a control needs.
     for (const auto* control : findChildren<QWidget*>())
         control->ensurePolished();
     KeepRoomForControls();
+}
+
+/// A screen that scrolls its content asks for the room of all of it.
+QSize Form::sizeHint() const {
+    constexpr int scrollBar = 24;
+    const auto* scroll = findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly);
+    if (!scroll || !scroll->widget() || layout()->count() > 1) return QWidget::sizeHint();
+    const QWidget* content = scroll->widget();
+    return {content->sizeHint().width() + scrollBar, content->sizeHint().height()};
 }
 
 /// Texts that run over lines need the more height the narrower a screen is, which its own minimum

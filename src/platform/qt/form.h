@@ -76,6 +76,8 @@ class Form : public QWidget {
     /// Writes a label's text; its letter for Alt is found anew.
     void ShowCaption(QLabel* label, const QString& text);
 
+    QSize sizeHint() const override;
+
     QMdiSubWindow* SubWindow() const { return subWindow_; }
 
   protected:

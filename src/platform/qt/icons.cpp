@@ -1,15 +1,68 @@
 #include "platform/qt/icons.h"
 
 #include <QFile>
+#include <QIconEngine>
+#include <QMap>
 #include <QPainter>
+#include <QPixmap>
 #include <QSvgRenderer>
+#include <utility>
 
 #include "platform/qt/theme.h"
 
 namespace tendo {
+namespace {
+
+QString FileOf(const QString& name) {
+    return ":/tendo/icons/" + name + ".svg";
+}
+
+/// Draws an icon when it is seen and at the size it is seen at: a start of the program needs few of
+/// all. The colours are those of the theme in use at that time.
+class LineIconEngine : public QIconEngine {
+  public:
+    explicit LineIconEngine(QString name) : name_(std::move(name)) {}
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        const QColor color = ColorOf(mode, state);
+        const int side = std::min(size.width(), size.height());
+        QPixmap& drawn = drawn_[{side, color.rgba()}];
+        if (drawn.isNull()) drawn = LinePixmap(name_, color, side);
+        return drawn;
+    }
+
+    void paint(QPainter* painter, const QRect& box, QIcon::Mode mode, QIcon::State state) override {
+        const double ratio = painter->device()->devicePixelRatioF();
+        QPixmap drawn = pixmap((QSizeF(box.size()) * ratio).toSize(), mode, state);
+        drawn.setDevicePixelRatio(ratio);
+        QRectF place(QPointF(0, 0), drawn.deviceIndependentSize());
+        place.moveCenter(QRectF(box).center());
+        painter->drawPixmap(place.topLeft(), drawn);
+    }
+
+    QSize actualSize(const QSize& size, QIcon::Mode, QIcon::State) override {
+        const int side = std::min(size.width(), size.height());
+        return {side, side};
+    }
+
+    bool isNull() override { return false; }
+    QIconEngine* clone() const override { return new LineIconEngine(name_); }
+
+  private:
+    static QColor ColorOf(QIcon::Mode mode, QIcon::State state) {
+        QColor color = state == QIcon::On ? Theme().accent : Theme().secondary;
+        if (mode == QIcon::Disabled) color.setAlphaF(0.4F);
+        return color;
+    }
+
+    QString name_;
+    QMap<std::pair<int, QRgb>, QPixmap> drawn_;
+};
+
+}  // namespace
 
 QPixmap LinePixmap(const QString& name, const QColor& color, int size, double ratio) {
-    QFile file(":/tendo/icons/" + name + ".svg");
+    QFile file(FileOf(name));
     if (!file.open(QIODevice::ReadOnly)) return {};
     QByteArray drawing = file.readAll();
     drawing.replace("currentColor", color.name(QColor::HexRgb).toLatin1());
@@ -18,8 +71,7 @@ QPixmap LinePixmap(const QString& name, const QColor& color, int size, double ra
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    QColor opaque = color;
-    painter.setOpacity(opaque.alphaF());
+    painter.setOpacity(color.alphaF());
     renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(pixmap.size())));
     painter.end();
     pixmap.setDevicePixelRatio(ratio);
@@ -27,18 +79,7 @@ QPixmap LinePixmap(const QString& name, const QColor& color, int size, double ra
 }
 
 QIcon LineIcon(const QString& name) {
-    QIcon icon;
-    const ThemeColors& colors = Theme();
-    QColor faded = colors.secondary;
-    faded.setAlphaF(0.4F);
-    for (const double ratio : {1.0, 2.0, 3.0}) {
-        const QPixmap plain = LinePixmap(name, colors.secondary, 20, ratio);
-        if (plain.isNull()) return {};
-        icon.addPixmap(plain, QIcon::Normal, QIcon::Off);
-        icon.addPixmap(LinePixmap(name, colors.accent, 20, ratio), QIcon::Normal, QIcon::On);
-        icon.addPixmap(LinePixmap(name, faded, 20, ratio), QIcon::Disabled, QIcon::Off);
-    }
-    return icon;
+    return QFile::exists(FileOf(name)) ? QIcon(new LineIconEngine(name)) : QIcon();
 }
 
 }  // namespace tendo

@@ -42,7 +42,8 @@ bool NeedsNoLetter(const QString& caption) {
 
 bool TakesLetter(QWidget* control) {
     if (const QLabel* label = LabelOf(control))
-        return label->buddy() && (label->buddy()->focusPolicy() & Qt::TabFocus);
+        return label->buddy() && ((label->buddy()->focusPolicy() & Qt::TabFocus) ||
+                                  !MnemonicOf(OwnCaption(label)).isNull());
     const bool captioned = qobject_cast<QPushButton*>(control) ||
                            qobject_cast<QCheckBox*>(control) ||
                            qobject_cast<QRadioButton*>(control);
