@@ -22,15 +22,13 @@ QString Q(std::string_view text) {
 }  // namespace
 
 ModelView::ModelView(ModelSelection& selection, int tab, QWidget* parent)
-    : QTableView(parent),
-      selection_(selection),
-      tab_(tab),
-      grid_(new ModelGrid(selection, tab, this)),
-      head_(new ModelHead(this)) {
+    : QTableView(parent), selection_(selection), tab_(tab) {
     setObjectName(Q(ModelTabAt(tab).gridName));
     setAccessibleName(Q(ModelTabAt(tab).kind));
+    if (!selection.IsVisible(tab)) return;  // a grid that nobody will see stays bare
+    grid_ = new ModelGrid(selection, tab, this);
+    head_ = new ModelHead(this);
     PrepareLook();
-    if (!selection.IsVisible(tab)) return;  // a grid that nobody will see
     setModel(grid_);
     Connect();
 }

@@ -62,8 +62,8 @@ class ModelView : public QTableView {
 
     ModelSelection& selection_;
     int tab_;
-    ModelGrid* grid_;
-    ModelHead* head_;
+    ModelGrid* grid_ = nullptr;
+    ModelHead* head_ = nullptr;
     FindLabel* lblFind_ = nullptr;  // made when it is first needed
     bool showing_ = false;          // what changes now is the program's doing
     bool ownWidths_ = false;        // the user's, from now or before
