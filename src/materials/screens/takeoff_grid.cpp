@@ -151,9 +151,10 @@ TextField* TakeoffGrid::AddField(int row, int number) {
                                           .unit = plan.unit},
                                 this);
     const Field which = plan.field;
+    // Room that is left over goes to the texts.
+    if (plan.kind != EntryKind::Label) field->setMaximumWidth(field->minimumWidth() * 5 / 4);
     if (which == Field::ItemQty) {
         field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        field->setMaximumWidth(field->minimumWidth() * 2);
         field->KeyFilter = [](QChar key, const QString&) { return QuantityKeyAllowed(key); };
     }
     connect(field, &TextField::textChanged, this,
