@@ -48,6 +48,7 @@ FrmOwner::FrmOwner() : Form("frmOwner", "Your Company", Place::Dialog) {
         fields_[i]->setText(QString::fromStdString(Owner().*ownerFields[i].text));
     }
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
     auto* later = new QPushButton("&Later", this);
     later->setObjectName("btnLater");
     auto* keep = new QPushButton("&OK", this);
