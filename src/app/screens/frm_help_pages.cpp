@@ -99,9 +99,10 @@ const std::vector<std::pair<std::string, std::string>>& HelpPagesByScreen() {
         {"frmTempFile", "files.md"},
         {"frmMatCosts", "takeoff.md"},
         {"frmEditMaterials", "materials.md"},
-        {"frmMatList", "materials.md"},
+        {"frmListAddDelete", "lists.md"},
+        {"frmMatList", "lists.md"},
         {"frmLaborCosts", "labor.md"},
-        {"frmLaborList", "labor.md"}};
+        {"frmLaborList", "lists.md"}};
     return table;
 }
 
