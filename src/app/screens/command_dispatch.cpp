@@ -183,7 +183,7 @@ void ActiveBar_Click(const std::string& tool) {
     const Command* command = FindCommand(tool);
     if (!command) return;
     RunGuarded([command] {
-        Form::CommitFocusedField();
+        Form::CommitAllEdits();
         if (const int number = RecentFileNumber(command->tool))
             RecentFile_Click(number);
         else

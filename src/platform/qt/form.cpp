@@ -220,12 +220,16 @@ void Form::SetListObserver(std::function<void()> observer) {
 
 void Form::CommitFocusedField() {
     if (auto* field = qobject_cast<TextField*>(QApplication::focusWidget())) field->Commit();
+}
+
+void Form::CommitAllEdits() {
+    CommitFocusedField();
     for (Form* form : Loaded())
         form->CommitEdits();
 }
 
 void Form::StoreAllFields() {
-    CommitFocusedField();
+    CommitAllEdits();
     for (Form* form : Loaded())
         form->StoreFields();
 }

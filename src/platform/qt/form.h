@@ -60,9 +60,12 @@ class Form : public QWidget {
     /// Called after a form was loaded, shown or unloaded (Window menu).
     static void SetListObserver(std::function<void()> observer);
 
-    /// Commits the field in focus without moving the focus, and the edits of all loaded forms: what
-    /// a menu, toolbar or closing command does first.
+    /// Commits the field in focus without moving the focus: what closing a form and a command of
+    /// its own do first.
     static void CommitFocusedField();
+
+    /// The same, and the edits of all loaded forms: what a menu or toolbar command does first.
+    static void CommitAllEdits();
 
     /// Commits the field in focus and lets every loaded form put what it holds in its fields into
     /// the records: what a save, a preview or a print does first, so that paper and file tell what
