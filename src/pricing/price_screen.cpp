@@ -132,6 +132,12 @@ void PriceTable::GetSystemTendos() {
     StoreModelTexts();
 }
 
+void PriceTable::FollowModels() {
+    const bool changed = FieldChanged;
+    Attempt(Refill, [&] { ShowModels(); });
+    FieldChanged = changed;
+}
+
 void PriceTable::ShowModels() {
     const SystemModelTexts sides[] = {CoolingTexts(records_, State().SystemNumber),
                                       HeatingTexts(records_, State().SystemNumber)};

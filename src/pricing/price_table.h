@@ -82,6 +82,8 @@ class PriceTable {
 
     /// Records to texts; nothing when the screen is closed or `FieldChanged` isn't set.
     void SetSystemTendos();
+    /// Shows the current system's models as another screen left them. That is no edit of this one.
+    void FollowModels();
     /// Texts to records, the current system's models included; nothing when the screen is closed.
     void GetSystemTendos();
     void DoAllMiddleItemsAtLoadTime();

@@ -375,5 +375,16 @@ TEST_F(SystemScreen, EveryChangedTextIsTold) {
     }
 }
 
+TEST_F(SystemScreen, ModelsThatAnotherScreenChangedShowWithoutAnEdit) {
+    table.Open();
+    table.FieldChanged = false;
+    records.CLGModelData[0].ModelDesc = "Told elsewhere";
+    records.CLGModelData[0].ModelQty = 3;
+    table.FollowModels();
+    EXPECT_EQ(Text(Field::CLGModelDesc), "Told elsewhere");
+    EXPECT_EQ(Text(Field::CLGModelQty), "3");
+    EXPECT_FALSE(table.FieldChanged);
+}
+
 }  // namespace
 }  // namespace tendo

@@ -111,8 +111,9 @@ void frmSumModelData::TakeTotals() {
 }
 
 void frmSumModelData::FollowSystem() {
-    if (shownSystem_ == State().SystemNumber) return ShowSurroundings();
-    Fill();
+    if (shownSystem_ != State().SystemNumber) return Fill();
+    table_.FollowModels();
+    ShowSurroundings();
 }
 
 void frmSumModelData::SystemMoved() {
