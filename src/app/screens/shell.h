@@ -10,8 +10,8 @@ struct ShellService {
     /// Opens a document or an address with its program: above 32 when that went through, else the
     /// error's number (2: there is no such file, 31: no program for it).
     std::function<int(const std::string& target)> Open;
-    /// Brings the window of a running program forward by its title, or by the beginning of it; false
-    /// when there is none.
+    /// Brings the window of a running program forward by its title, or by the beginning of it;
+    /// false when there is none.
     std::function<bool(const std::string& title)> Activate;
     /// Starts a program by its file name; false when it couldn't be started.
     std::function<bool(const std::string& program)> Start;

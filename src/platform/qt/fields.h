@@ -55,8 +55,8 @@ class TextField : public QLineEdit {
 
     /// Text set by the program: no key filter; keeps the caret when nothing changed.
     void ShowText(const QString& text);
-    /// Marks the figure as changed by the last edit, for two seconds; the timer that ends it is called
-    /// NAME_Fresh.
+    /// Marks the figure as changed by the last edit, for two seconds; the timer that ends it is
+    /// called NAME_Fresh.
     void MarkFresh();
 
     EntryKind Kind() const { return kind_; }
