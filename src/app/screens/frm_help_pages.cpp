@@ -102,7 +102,11 @@ const std::vector<std::pair<std::string, std::string>>& HelpPagesByScreen() {
         {"frmListAddDelete", "lists.md"},
         {"frmMatList", "lists.md"},
         {"frmLaborCosts", "labor.md"},
-        {"frmLaborList", "lists.md"}};
+        {"frmLaborList", "lists.md"},
+        {"frmFootnotes", "footnotes.md"},
+        {"frmFootnoteNew", "footnotes.md"},
+        {"frmSelectFootNoteFromDB", "footnotes.md"},
+        {"frmReportOptions", "report-options.md"}};
     return table;
 }
 

@@ -24,12 +24,15 @@
 #include "app/startup.h"
 #include "materials/material_catalogue.h"
 #include "platform/files/ini_file_handler.h"
+#include "platform/files/paths.h"
 #include "platform/files/settings_store.h"
+#include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
 #include "platform/qt/icons.h"
 #include "platform/text/number_text.h"
 #include "project/program_state.h"
 #include "project/project_lifecycle.h"
+#include "reports/proposal_formats.h"
 
 namespace tendo {
 namespace {
@@ -124,6 +127,7 @@ void frmMDI::MDIForm_Load(const std::vector<std::string>& args) {
     RestoreToolbarLayout();
     tmrAutoSave_->start();
     BuildRecentFilesMenu();
+    MakeMissingFormats();
     OpenStartupProject(args);
     LoadMaterials();
     LoadScreen("frmPrint");
@@ -143,6 +147,17 @@ void frmMDI::OpenStartupProject(const std::vector<std::string>& args) {
         RunGuarded(mnuFileOpen_Click);
     else
         MainBar().DisableActiveBarTools();
+}
+
+/// A store of proposal formats that isn't there is made empty.
+void frmMDI::MakeMissingFormats() {
+    if (FileExists(ProposalFormatFile())) return;
+    RunGuarded([] {
+        constexpr int Fields = 60;
+        if (MakeFormatDB(ProposalFormatFile()) != Fields)
+            ShowMessage("TENDO", "Warning!  Invalid number of fields in SUB MakeFormatDB",
+                        MessageIcon::Critical);
+    });
 }
 
 void frmMDI::LoadMaterials() {

@@ -36,6 +36,7 @@ class frmMDI : public Form {
   private:
     void RestoreWindow();
     void OpenStartupProject(const std::vector<std::string>& args);
+    void MakeMissingFormats();
     void LoadMaterials();
     void Observe();
 

@@ -24,6 +24,7 @@
 #include "project/program_state.h"
 #include "project/screens/frm_gpd.h"
 #include "reports/screens/frm_preview.h"
+#include "reports/screens/frm_report_options.h"
 
 namespace tendo {
 namespace {
@@ -46,6 +47,7 @@ void EnterScreens() {
     RegisterScreen("frmFootnotes", Make<frmFootnotes>);
     RegisterScreen("frmListAddDelete",
                    []() -> Form* { return new frmListAddDelete(ListKind::Material); });
+    RegisterScreen("frmReportOptions", Make<frmReportOptions>);
     RegisterScreen("frmAbout", MakeAboutForm);
     RegisterScreen("frmTip", Make<frmTip>);
     RegisterScreen("frmStatus", Make<frmStatus>);

@@ -59,7 +59,7 @@ bool IsAligned(const RichEditor& editor) {
 }  // namespace
 
 /// In their order, in two lines; a null name parts groups.
-const EditTool formatTools[] = {
+const EditTool fontTools[] = {
     {"ToolBold", "bold", "Bold", "Ctrl+B",
      [](EditBar&, RichEditor& editor, bool on) { editor.SetBold(on); },
      [](const RichEditor& editor) { return editor.fontWeight() >= QFont::DemiBold; }},
@@ -71,7 +71,8 @@ const EditTool formatTools[] = {
      [](const RichEditor& editor) { return editor.fontUnderline(); }},
     {"ToolColor", "text-color", "Color of the text", "",
      [](EditBar& bar, RichEditor&, bool) { bar.PickColor(); }},
-    {},
+};
+const EditTool textTools[] = {
     {"ToolLeftJustify", "align-left", "Align left", "Ctrl+L", Align<Qt::AlignLeft>,
      IsAligned<Qt::AlignLeft>},
     {"ToolCenterJustify", "align-center", "Center", "Ctrl+Shift+E", Align<Qt::AlignHCenter>,
@@ -85,8 +86,7 @@ const EditTool formatTools[] = {
      [](EditBar&, RichEditor& editor, bool) { editor.Indent(-1); }},
     {"ToolIndentRight", "indent-in", "Indent more", "Ctrl+M",
      [](EditBar&, RichEditor& editor, bool) { editor.Indent(1); }},
-};
-const EditTool textTools[] = {
+    {},
     {"ToolImportTextFile", "import-text", "Import a text file", "",
      [](EditBar& bar, RichEditor&, bool) { bar.ImportTextFile(); }},
     {},
@@ -104,15 +104,16 @@ const EditTool textTools[] = {
      [](EditBar& bar, RichEditor&, bool) { bar.Insert(FinalPriceToken); }},
 };
 
-EditBar::EditBar(RichEditor* editor, QWidget* parent) : QWidget(parent), editor_(editor) {
+EditBar::EditBar(RichEditor* editor, QWidget* parent, const QString& whose)
+    : QWidget(parent), editor_(editor), whose_(whose) {
     setObjectName("EditBand");
     auto* lines = new QVBoxLayout(this);
     lines->setContentsMargins(0, 0, 0, 0);
     lines->setSpacing(2);
-    QHBoxLayout* formats = AddLine(lines);
-    AddFonts(formats);
-    AddTools(formats, formatTools);
-    formats->addStretch(1);
+    QHBoxLayout* fonts = AddLine(lines);
+    AddFonts(fonts);
+    AddTools(fonts, fontTools);
+    fonts->addStretch(1);
     QHBoxLayout* texts = AddLine(lines);
     AddTools(texts, textTools);
     texts->addStretch(1);
@@ -126,6 +127,10 @@ EditBar::EditBar(RichEditor* editor, QWidget* parent) : QWidget(parent), editor_
     ShowState();
 }
 
+QString EditBar::Spoken(const QString& tool) const {
+    return whose_.isEmpty() ? tool : whose_ + ": " + tool;
+}
+
 QToolButton* EditBar::MakeTool(const EditTool& tool) {
     auto* button = new QToolButton(this);
     button->setObjectName(tool.name);
@@ -133,7 +138,7 @@ QToolButton* EditBar::MakeTool(const EditTool& tool) {
     button->setIconSize(QSize(20, 20));
     button->setAutoRaise(true);
     button->setCheckable(tool.isOn != nullptr);
-    button->setAccessibleName(tool.tip);
+    button->setAccessibleName(Spoken(tool.tip));
     const QKeySequence keys(tool.keys);
     button->setToolTip(keys.isEmpty() ? QString(tool.tip)
                                       : QString("%1 (%2)").arg(tool.tip, keys.toString()));
@@ -158,15 +163,15 @@ void EditBar::AddTools(QHBoxLayout* line, std::span<const EditTool> tools) {
 void EditBar::AddFonts(QHBoxLayout* line) {
     fonts_ = new QComboBox(this);
     fonts_->setObjectName("ToolFonts");
-    fonts_->setAccessibleName("Font");
+    fonts_->setAccessibleName(Spoken("Font"));
     fonts_->addItems(firstFonts);
     for (const QString& family : QFontDatabase::families())
         if (!firstFonts.contains(family)) fonts_->addItem(family);
     fonts_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    fonts_->setMinimumContentsLength(14);
+    fonts_->setMinimumContentsLength(9);
     sizes_ = new QComboBox(this);
     sizes_->setObjectName("ToolFontSize");
-    sizes_->setAccessibleName("Font size in points");
+    sizes_->setAccessibleName(Spoken("Font size in points"));
     sizes_->setEditable(true);
     sizes_->setInsertPolicy(QComboBox::NoInsert);
     for (const int size : fontSizes)
@@ -182,8 +187,10 @@ void EditBar::AddFonts(QHBoxLayout* line) {
 }
 
 void EditBar::ShowState() {
-    for (const EditTool& tool : formatTools)
-        if (tool.isOn) findChild<QToolButton*>(tool.name)->setChecked(tool.isOn(*editor_));
+    for (const std::span<const EditTool> tools :
+         {std::span<const EditTool>(fontTools), std::span<const EditTool>(textTools)})
+        for (const EditTool& tool : tools)
+            if (tool.isOn) findChild<QToolButton*>(tool.name)->setChecked(tool.isOn(*editor_));
     const RichRun run = RunFormatOf(editor_->currentCharFormat());
     fonts_->setCurrentIndex(fonts_->findText(QString::fromStdString(run.font.family)));
     if (!sizes_->lineEdit()->hasFocus())

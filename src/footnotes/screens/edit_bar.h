@@ -19,7 +19,8 @@ struct EditTool;
 class EditBar : public QWidget {
     Q_OBJECT
   public:
-    EditBar(RichEditor* editor, QWidget* parent);
+    /// `whose` tells the tools from those of another bar of the same screen.
+    EditBar(RichEditor* editor, QWidget* parent, const QString& whose = {});
 
     /// The timer, under its name, belongs to the screen.
     static constexpr const char* TimerName = "tmrToolbarTimer";
@@ -38,7 +39,10 @@ class EditBar : public QWidget {
     void SetFont();
     void SetFontSize();
 
+    QString Spoken(const QString& tool) const;
+
     RichEditor* editor_;
+    QString whose_;
     QTimer timer_;
     QComboBox* fonts_ = nullptr;
     QComboBox* sizes_ = nullptr;

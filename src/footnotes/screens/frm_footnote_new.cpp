@@ -20,11 +20,6 @@ namespace {
 constexpr std::array ModeNames = {"Database", "Selected", "AccRpt"};
 constexpr FieldSpec NameField = {.name = "txtNewFootNoteName", .label = "&Name", .maxLength = 255};
 
-FootnoteList TargetOf(FootnoteMode mode) {
-    return mode == FootnoteMode::AccRpt ? AccessoryFootnotes(Project())
-                                        : ProposalFootnotes(Project());
-}
-
 }  // namespace
 
 frmFootnoteNew::frmFootnoteNew(FootnoteMode mode)
@@ -99,7 +94,7 @@ void frmFootnoteNew::StoreInLibrary() {
 void frmFootnoteNew::StoreInProject() {
     const std::string name = name_->text().trimmed().toStdString();
     const std::string text = editor_->Text();
-    const bool added = RunFootnoteCommand([&] { AddFootnote(TargetOf(mode_), name, text); });
+    const bool added = RunFootnoteCommand([&] { AddFootnote(ListOf(mode_), name, text); });
     if (!added) return;
     State().ProjectChanged = true;
     if (Ask("TENDO", "Do you want to add this footnote to the database?", Buttons::YesNo) ==
@@ -111,6 +106,11 @@ void frmFootnoteNew::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape) return Form::keyPressEvent(event);
     cancelled_ = true;
     Unload();
+}
+
+FootnoteList ListOf(FootnoteMode mode) {
+    return mode == FootnoteMode::AccRpt ? AccessoryFootnotes(Project())
+                                        : ProposalFootnotes(Project());
 }
 
 void ShowFootnoteNew(FootnoteMode mode) {

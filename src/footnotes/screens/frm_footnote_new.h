@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "footnotes/project_footnotes.h"
 #include "platform/qt/form.h"
 
 class QVBoxLayout;
@@ -13,6 +14,9 @@ class TextField;
 
 /// Where a new footnote goes: the library, the proposal's list, the accessories report's list.
 enum class FootnoteMode { Database, Selected, AccRpt };
+
+/// The project's list of a mode.
+FootnoteList ListOf(FootnoteMode mode);
 
 /// Writes one new footnote. Closing stores it; Cancel doesn't.
 class frmFootnoteNew : public Form {

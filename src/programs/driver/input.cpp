@@ -40,7 +40,23 @@ void BringForward(QWidget* control) {
     }
 }
 
-void MustBeUsable(const QWidget* control) {
+/// The page of a tab control on which a control stands comes to the front, as its user would turn
+/// to it.
+void TurnToPageOf(QWidget* control) {
+    for (QWidget* page = control; page->parentWidget(); page = page->parentWidget()) {
+        QWidget* stack = page->parentWidget();
+        auto* tabs = qobject_cast<QTabWidget*>(stack->parentWidget());
+        const int index = tabs ? tabs->indexOf(page) : -1;
+        if (index < 0 || index == tabs->currentIndex() || !tabs->isVisible() ||
+            !tabs->isTabEnabled(index) || !tabs->isTabVisible(index))
+            continue;
+        tabs->setCurrentIndex(index);
+        SettleEvents();
+    }
+}
+
+void MustBeUsable(QWidget* control) {
+    TurnToPageOf(control);
     const std::string name = control->objectName().toStdString();
     if (!control->isEnabled()) throw std::runtime_error(name + " is disabled");
     if (!control->isVisible()) throw std::runtime_error(name + " is not visible");
