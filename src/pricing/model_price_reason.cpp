@@ -6,6 +6,7 @@
 #include "platform/text/number_text.h"
 #include "platform/text/runtime_error.h"
 #include "pricing/price_formulas.h"
+#include "pricing/price_reason_details.h"
 #include "pricing/relations.h"
 
 namespace tendo {
@@ -16,6 +17,7 @@ using Origin = PriceOrigin;
 
 constexpr const char* Columns[] = {"Dealer cost",  "Override",      "Gross margin",
                                    "Price markup", "List discount", "Sale price"};
+constexpr const char* savedPrice = "saved, or the list price of the chosen model";
 
 const std::string& TextOf(const ModelPriceFacts& facts, FieldKind column) {
     return facts.texts.at(static_cast<std::size_t>(column));
@@ -31,31 +33,10 @@ std::string TimesQuantity(const ModelPriceFacts& facts, float price) {
            MoneyText(static_cast<double>(price) * facts.model.quantity);
 }
 
-Origin CauseOf(FieldKind column) {
-    if (column == FieldKind::PriceMarkup) return Origin::FromMarkup;
-    if (column == FieldKind::ListDiscount) return Origin::FromDiscount;
-    return Origin::FromMargin;
-}
-
 /// The sale price follows from this percentage, and the field still shows it.
 bool IsCause(const ModelPriceFacts& facts, FieldKind column) {
     return facts.trace.origin == CauseOf(column) &&
            !IsPercentEdit(ValueOfText(TextOf(facts, column)), facts.trace.percent);
-}
-
-std::string PriceSource(Origin origin) {
-    switch (origin) {
-        case Origin::Entered:
-            return "entered";
-        case Origin::FromMargin:
-            return "follows from the gross margin";
-        case Origin::FromMarkup:
-            return "follows from the price markup";
-        case Origin::FromDiscount:
-            return "follows from the list discount";
-        default:
-            return "saved, or the list price of the chosen model";
-    }
 }
 
 std::vector<PriceReason::Part> PartsOf(const ModelPriceFacts& facts) {
@@ -73,7 +54,7 @@ std::vector<PriceReason::Part> PartsOf(const ModelPriceFacts& facts) {
             percentage(FieldKind::GrossMargin, "follows from cost and sale price"),
             percentage(FieldKind::PriceMarkup, "follows from cost and sale price"),
             percentage(FieldKind::ListDiscount, "follows from list price and sale price"),
-            part(FieldKind::SalePrice, PriceSource(facts.trace.origin)),
+            part(FieldKind::SalePrice, PriceSourceOf(facts.trace.origin, savedPrice)),
             {"List price", MoneyText(facts.listPrice),
              facts.listPrice == 0
                  ? "none"

@@ -15,6 +15,12 @@ PriceReason WhyTotal(const PriceTable& table, const ProjectRecords& records, Tab
 /// A figure of the table as a part: its title, its text, its source.
 PriceReason::Part TablePart(const PriceTable& table, TableField field, std::string source);
 
+/// How a sale price came about that follows from this percentage.
+PriceOrigin CauseOf(FieldKind percentage);
+
+/// What a line's sale price comes from; "otherwise" for one neither entered nor calculated.
+const char* PriceSourceOf(PriceOrigin origin, const char* otherwise);
+
 /// True when a percentage field shows this percentage.
 bool ShowsPercent(const PriceTable& table, TableField field, float percent);
 

@@ -66,7 +66,6 @@ class RowReason {
 
     std::string OverrideSource() const;
     std::string PercentageSource(FieldKind column) const;
-    std::string PriceSource() const;
     std::vector<Part> Parts() const;
 
     void TellCost(PriceReason& reason) const;
@@ -83,12 +82,6 @@ class RowReason {
     int row_;
     const RowSources& sources_;
 };
-
-Origin CauseOf(FieldKind column) {
-    if (column == FieldKind::PriceMarkup) return Origin::FromMarkup;
-    if (column == FieldKind::ListDiscount) return Origin::FromDiscount;
-    return Origin::FromMargin;
-}
 
 /// The sale price follows from this percentage, and the field still shows it.
 bool RowReason::IsCause(FieldKind column) const {
@@ -158,23 +151,6 @@ std::string RowReason::PercentageSource(FieldKind column) const {
     return EarlierCalculation;
 }
 
-std::string RowReason::PriceSource() const {
-    switch (table_.TraceOf(row_).origin) {
-        case Origin::Entered:
-            return "entered";
-        case Origin::FromMargin:
-            return "follows from the gross margin";
-        case Origin::FromMarkup:
-            return "follows from the price markup";
-        case Origin::FromDiscount:
-            return "follows from the list discount";
-        case Origin::FromDefaultMargin:
-            return "follows from your default margin";
-        default:
-            return sources_.price;
-    }
-}
-
 std::vector<Part> RowReason::Parts() const {
     const auto part = [&](const char* name, FieldKind column, std::string source) {
         return Part{name, table_.Text(Field(column)), std::move(source)};
@@ -187,7 +163,8 @@ std::vector<Part> RowReason::Parts() const {
             percentage("Gross margin", FieldKind::GrossMargin),
             percentage("Price markup", FieldKind::PriceMarkup),
             percentage("List discount", FieldKind::ListDiscount),
-            part("Sale price", FieldKind::SalePrice, PriceSource()),
+            part("Sale price", FieldKind::SalePrice,
+                 PriceSourceOf(table_.TraceOf(row_).origin, sources_.price)),
             {"List price", MoneyText(List()), List() == 0 ? "none" : sources_.list}};
 }
 

@@ -1,6 +1,7 @@
 #include "reports/proposal_formats.h"
 
-#include <limits>
+#include <span>
+#include <type_traits>
 #include <variant>
 
 #include "platform/database/database.h"
@@ -146,9 +147,8 @@ void ReadField(const Recordset& rows, const FormatField& field) {
         **text = rows.Text(field.column);
     else if (auto* const* color = std::get_if<std::int32_t*>(&field.value))
         **color = rows.Long(field.column);
-    else  // one mark is kept as a Single
-        *std::get<std::int16_t*>(field.value) =
-            static_cast<std::int16_t>(rows.Single(field.column));
+    else
+        *std::get<std::int16_t*>(field.value) = rows.Integer(field.column);
 }
 
 bool Walk(Recordset& rows, std::string_view name) {

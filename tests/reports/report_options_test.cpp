@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <set>
 #include <string>
 
 #include "../files/test_folder.h"
+#include "platform/database/database.h"
 #include "platform/files/ini_file_handler.h"
 #include "platform/files/profile.h"
 #include "platform/text/runtime_error.h"
@@ -219,6 +221,23 @@ TEST_F(ProposalFormats, AFormatThatIsNotThereChangesNothing) {
     EXPECT_FALSE(LoadProposalFormat("None", values, list));
     EXPECT_EQ(values.startingPage, 4);
     EXPECT_EQ(list.Size(), 1u);
+}
+
+TEST_F(ProposalFormats, AMarkTooLargeForItselfIsAnOverflow) {
+    values = LoadReportOptions(project);
+    SaveProposalFormat("Ours", values, list);
+    Database formats = Database::OpenDatabase(ProposalFormatFile());
+    Recordset rows = formats.OpenRecordset("ProposalFormats");
+    rows.Edit();
+    rows.Set("CFMRate", std::int64_t{40000});  // kept as a Single, which has room for it
+    rows.Update();
+    formats.Close();
+    try {
+        LoadProposalFormat("Ours", values, list);
+        FAIL() << "no error";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), 6);
+    }
 }
 
 TEST_F(ProposalFormats, DeletingTakesItsFootnotesAlong) {

@@ -1,23 +1,17 @@
 #include "equipment/screens/system_form.h"
 
-#include <QScrollArea>
 #include <QVBoxLayout>
+
+#include "platform/qt/scroll_content.h"
 
 namespace tendo {
 
 QVBoxLayout* SystemForm::MakeColumn() {
-    auto* frame = new QVBoxLayout(this);
-    frame->setContentsMargins(0, 0, 0, 0);
-    auto* scroll = new QScrollArea(this);
     content_ = new QWidget;
     auto* column = new QVBoxLayout(content_);
     column->setContentsMargins(16, 16, 16, 16);
     column->setSpacing(14);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(content_);
-    frame->addWidget(scroll);
+    ScrollContent(this, content_);
     setMinimumSize(520, 320);
     return column;
 }

@@ -3,7 +3,6 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "materials/catalogue_merge.h"
@@ -16,6 +15,7 @@
 #include "platform/files/paths.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
+#include "platform/qt/scroll_content.h"
 #include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
 #include "pricing/screens/frm_sum_rpt_data.h"
@@ -72,14 +72,7 @@ frmMatCosts::frmMatCosts() : Form("frmMatCosts", caption, Place::Child, "frmMatC
     column->addStretch();
     AddListChoice();
     AddNeighbours();
-    auto* scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(content_);
-    auto* frame = new QVBoxLayout(this);
-    frame->setContentsMargins(0, 0, 0, 0);
-    frame->addWidget(scroll);
+    ScrollContent(this, content_);
     setMinimumSize(560, 320);
     setWindowTitle(Q(page_->Rows().Title()));
     connect(page_, &TakeoffPage::TitleChanged, this, &QWidget::setWindowTitle);

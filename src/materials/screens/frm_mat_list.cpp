@@ -2,7 +2,6 @@
 
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <optional>
 #include <utility>
@@ -14,6 +13,7 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/enhanced_input.h"
 #include "platform/qt/fields.h"
+#include "platform/qt/scroll_content.h"
 #include "platform/text/text.h"
 #include "project/program_state.h"
 
@@ -68,14 +68,7 @@ frmMatList::frmMatList(const std::string& name, bool isNew, std::vector<Material
     column->setContentsMargins(16, 12, 16, 12);
     column->addWidget(page_);
     column->addStretch();
-    auto* scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(content_);
-    auto* frame = new QVBoxLayout(this);
-    frame->setContentsMargins(0, 0, 0, 0);
-    frame->addWidget(scroll);
+    ScrollContent(this, content_);
     setMinimumSize(560, 320);
     connect(page_, &TakeoffPage::TitleChanged, this, &QWidget::setWindowTitle);
     AddName(name);

@@ -3,13 +3,13 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "materials/labor_lists.h"
 #include "materials/screens/list_screens.h"
 #include "platform/qt/dialogs.h"
+#include "platform/qt/scroll_content.h"
 #include "platform/text/text.h"
 
 namespace tendo {
@@ -27,14 +27,7 @@ bool Agreed(const char* question) {
 
 LaborScreen::LaborScreen(const QString& name, const QString& caption, std::vector<LaborRow>& rows)
     : Form(name, caption, Place::Child, name), page_(rows), content_(new QWidget) {
-    auto* frame = new QVBoxLayout(this);
-    frame->setContentsMargins(0, 0, 0, 0);
-    auto* scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(content_);
-    frame->addWidget(scroll);
+    ScrollContent(this, content_);
     auto* column = new QVBoxLayout(content_);
     column->setContentsMargins(16, 16, 16, 16);
     column->setSpacing(14);

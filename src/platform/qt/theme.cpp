@@ -56,11 +56,4 @@ void SetStyleFlag(QWidget* widget, const char* flag, bool on) {
     widget->style()->polish(widget);
 }
 
-void SetStyleText(QWidget* widget, const char* name, const QString& value) {
-    if (widget->property(name).toString() == value) return;
-    widget->setProperty(name, value);
-    widget->style()->unpolish(widget);
-    widget->style()->polish(widget);
-}
-
 }  // namespace tendo

@@ -42,6 +42,5 @@ QFont TotalFont();
 /// A style property by which the style sheet tells widgets apart ("figure", "fresh", "primary",
 /// "heading", "card"), set and shown at once.
 void SetStyleFlag(QWidget* widget, const char* flag, bool on);
-void SetStyleText(QWidget* widget, const char* name, const QString& value);
 
 }  // namespace tendo

@@ -20,14 +20,8 @@
 namespace tendo {
 namespace {
 
-constexpr const char* screenName = "frmSumModelData";
-
 QString Q(const std::string& text) {
     return QString::fromStdString(text);
-}
-
-frmSumModelData* LoadedScreen() {
-    return qobject_cast<frmSumModelData*>(Form::Find(screenName));
 }
 
 }  // namespace
@@ -198,17 +192,6 @@ void frmSumModelData::WantWhy(TableField field) {
 void frmSumModelData::WantWhyInFocus() {
     const std::optional<TableField> field = fields_.Focused();
     WantWhy(field && *field < TableField::CLGDB ? *field : TableField::TotalSalePrice);
-}
-
-void ShowSumModelData() {
-    Form* screen = LoadedScreen();
-    if (!screen) screen = new frmSumModelData;
-    screen->ShowForm();
-}
-
-PriceTable* OpenPriceTable() {
-    frmSumModelData* screen = LoadedScreen();
-    return screen ? &screen->Table() : nullptr;
 }
 
 }  // namespace tendo

@@ -98,11 +98,4 @@ class frmSumModelData : public Form {
     bool watchesActivation_ = false;
 };
 
-/// Opens the screen, or brings it forward.
-void ShowSumModelData();
-
-/// The price table of the open screen; nullptr when it is closed. The material and labor screens
-/// refill it after their totals changed.
-PriceTable* OpenPriceTable();
-
 }  // namespace tendo

@@ -1,7 +1,9 @@
 #include "pricing/screens/scroll_column.h"
 
-#include <QScrollArea>
 #include <QVBoxLayout>
+#include <QWidget>
+
+#include "platform/qt/scroll_content.h"
 
 namespace tendo {
 namespace {
@@ -12,18 +14,11 @@ constexpr int scrollBar = 12;
 }  // namespace
 
 QVBoxLayout* MakeScrollColumn(QWidget* screen) {
-    auto* frame = new QVBoxLayout(screen);
-    frame->setContentsMargins(0, 0, 0, 0);
-    auto* scroll = new QScrollArea(screen);
     auto* content = new QWidget;
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(14);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(content);
-    frame->addWidget(scroll);
+    ScrollContent(screen, content);
     screen->setMinimumSize(520, 320);
     return column;
 }

@@ -75,7 +75,6 @@ class Session {
     std::string FileToRead(const std::string& name) const;
 
     void StartProgram();
-    bool Started() const { return started_; }
     void MarkQuit() { started_ = false; }
 
     ScriptedDialogs& Dialogs_() { return *dialogs_; }
