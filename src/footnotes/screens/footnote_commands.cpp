@@ -60,6 +60,7 @@ QListWidget* MakeFootnoteList(const QString& name, const QString& accessibleName
     auto* list = new QListWidget(parent);
     list->setObjectName(name);
     list->setAccessibleName(accessibleName);
+    list->setProperty("roomy", true);
     list->setUniformItemSizes(true);
     list->setMinimumHeight(90);
     return list;
