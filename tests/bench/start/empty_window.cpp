@@ -6,8 +6,7 @@
 
 /// The least that a program with a main window can be; says so at its first paint, and ends.
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    const tendo::bench::FirstPaint paint("empty", [] {
+    const tendo::bench::FirstPaintApplication application(argc, argv, "empty", [] {
         std::fputc('\n', stdout);
         std::fflush(stdout);
         std::_Exit(0);

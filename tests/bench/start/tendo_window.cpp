@@ -60,12 +60,11 @@ void TellOpeningTimes() {
 int main(int argc, char** argv) {
     if (argc < 2) return 2;
     const bool screens = argc > 2 && std::strcmp(argv[2], "--screens") == 0;
-    QApplication application(argc, argv);
-    tendo::ApplyTheme(application);
-    if (!tendo::DocumentFontsInstalled()) return 1;
-    const tendo::bench::FirstPaint paint("frmMDI", [screens] {
+    tendo::bench::FirstPaintApplication application(argc, argv, "frmMDI", [screens] {
         if (!screens) tendo::bench::End();
     });
+    tendo::ApplyTheme(application);
+    if (!tendo::DocumentFontsInstalled()) return 1;
     const bool started = tendo::StartTendo({.home = argv[1],
                                             .winIni = {},
                                             .today = {},
