@@ -53,19 +53,25 @@ QStringList LocalFiles(const QMimeData* data) {
     return files;
 }
 
+/// Embedded while it is empty: every widget in it would be styled again.
+QMainWindow* EmbeddedWindow(QWidget* parent) {
+    auto* window = new QMainWindow(parent);
+    window->setWindowFlags(Qt::Widget);
+    auto* column = new QVBoxLayout(parent);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(window);
+    return window;
+}
+
 }  // namespace
 
 frmMDI::frmMDI()
     : Form("frmMDI", "Quick Tendo", Place::Main),
-      window_(new QMainWindow),
+      window_(EmbeddedWindow(this)),
       workspace_(new WorkspaceArea(window_)),
       menus_(nullptr),
       status_(new StatusLine(window_)),
       tmrAutoSave_(new QTimer(this)) {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    window_->setWindowFlags(Qt::Widget);
-    column->addWidget(window_);
     window_->setCentralWidget(workspace_);
     window_->setStatusBar(status_);
     menus_ = new MainMenus(window_);

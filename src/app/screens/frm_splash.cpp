@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
+#include <QSvgRenderer>
 #include <QVBoxLayout>
 #include <QtEndian>
 #include <utility>
@@ -44,13 +45,29 @@ QPixmap MetafilePicture(const QString& fileName) {
     return PaintMetafile(painter, content, picture.rect()) ? picture : QPixmap();
 }
 
+/// A drawing at the size it is shown at; null when the file is none. Drawn here: a pixmap that
+/// reads its file would first have every plug-in for pictures loaded.
+QPixmap DrawingPicture(const QString& fileName) {
+    if (!QFile::exists(fileName)) return {};
+    QSvgRenderer drawing(fileName);
+    QSize size = drawing.defaultSize();
+    if (!drawing.isValid() || size.isEmpty()) return {};
+    if (size != size.boundedTo(largestLogo)) size.scale(largestLogo, Qt::KeepAspectRatio);
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    drawing.render(&painter);
+    return picture;
+}
+
 /// The logo from the program directory: as it is named, or the drawing that comes with the program.
 QPixmap LogoPicture() {
     const QString named = QString::fromStdString(State().ProgramDirectory + State().LogoFileName);
     const QString stem = named.section('.', 0, -2);
     QPixmap picture = MetafilePicture(named);
-    for (const QString& file : {named, stem + ".svg", stem + ".png"})
-        if (picture.isNull()) picture = QPixmap(file);
+    if (picture.isNull() && QFile::exists(named)) picture = QPixmap(named);
+    if (picture.isNull()) picture = DrawingPicture(stem + ".svg");
+    if (picture.isNull()) picture = QPixmap(stem + ".png");
     const QSize size = picture.size();
     const bool large = size.width() > largestLogo.width() || size.height() > largestLogo.height();
     return large ? picture.scaled(largestLogo, Qt::KeepAspectRatio, Qt::SmoothTransformation)

@@ -79,7 +79,7 @@ void mnuToolbarCustomizeToolbar_Click() {
 void RestoreToolbarLayout() {
     const std::string hidden = ReadProfileString(LayoutFile(), section, "Hidden", "");
     hiddenTools = QString::fromStdString(hidden).split(',', Qt::SkipEmptyParts);
-    fillToolbar(hiddenTools);
+    if (!hiddenTools.isEmpty()) fillToolbar(hiddenTools);  // it is made with every tool
     Dock(StoredSide().area);
 }
 

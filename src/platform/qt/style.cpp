@@ -7,6 +7,7 @@
 #include <QStyleOption>
 
 #include "platform/qt/alt_letters.h"
+#include "platform/qt/icons.h"
 #include "platform/qt/theme.h"
 
 namespace tendo {
@@ -114,6 +115,13 @@ int TendoStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+QIcon TendoStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                               const QWidget* widget) const {
+    if (icon == SP_ToolBarHorizontalExtensionButton) return LineIcon("chevrons-right");
+    if (icon == SP_ToolBarVerticalExtensionButton) return LineIcon("chevrons-down");
+    return QProxyStyle::standardIcon(icon, option, widget);
 }
 
 int TendoStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
