@@ -171,9 +171,10 @@ int ModelRows::FindTyped(Database& database, std::string_view text, int fromPlac
     if (Count() == 0 || text.empty()) return -1;
     ReadModelNumbers(database);
     const std::string wanted = LowerCase(text);
+    const int count = static_cast<int>(modelNumbers_.size());
     int holding = -1;
-    for (int step = 0; step < static_cast<int>(modelNumbers_.size()); ++step) {
-        const int row = RowAt((std::max(fromPlace, 0) + step) % Count());
+    for (int step = 0; step < count; ++step) {
+        const int row = RowAt((std::max(fromPlace, 0) + step) % count);
         const std::size_t at = modelNumbers_[static_cast<std::size_t>(row)].find(wanted);
         if (at == 0) return row;
         if (at != std::string::npos && holding < 0) holding = row;

@@ -47,9 +47,9 @@ TEST_F(Screens, EveryControlIsSpokenOfByANameOfItsOwn) {
 
 /// The fields that can be typed in or chosen from.
 bool IsField(const QWidget* control) {
-    return (control->focusPolicy() & Qt::TabFocus) && control->inherits("QLineEdit") |
-                                                          control->inherits("QPlainTextEdit") |
-                                                          control->inherits("QComboBox");
+    const bool entry = control->inherits("QLineEdit") || control->inherits("QPlainTextEdit") ||
+                       control->inherits("QComboBox");
+    return entry && (control->focusPolicy() & Qt::TabFocus);
 }
 
 QLabel* LabelFor(const Form& form, const QWidget* field) {
