@@ -101,7 +101,7 @@ void Takeoff::FillPage() {
 
 void Takeoff::StoreLine(int row) {
     if (!Line(row).IsEdited() || top_ + row >= Count()) return;
-    const auto at = static_cast<std::size_t>(top_ + row);
+    const auto at = static_cast<std::size_t>(top_) + static_cast<std::size_t>(row);
     // A catalogue that was loaded anew may be shorter than the view that was built on it.
     if (view_ != TakeoffView::All && static_cast<std::size_t>(places_.at(at)) >= catalogue_.size())
         return;

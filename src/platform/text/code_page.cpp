@@ -78,6 +78,8 @@ class PageConversion {
     PageConversion(const PageConversion&) = delete;
     PageConversion& operator=(const PageConversion&) = delete;
 
+    // The system marks an unknown page by this value.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr)
     bool IsKnown() const { return conversion_ != reinterpret_cast<iconv_t>(-1); }
 
     std::string Convert(std::string_view bytes) {

@@ -34,7 +34,7 @@ class frmReportOptions : public Form {
   private:
     QWidget* MakeFormats();
     QWidget* MakePages();
-    QWidget* MakePage(std::vector<OptionFrame> frames, QVBoxLayout*& column);
+    QWidget* MakePage(const std::vector<OptionFrame>& frames, QVBoxLayout*& column);
     void AddFrame(QVBoxLayout* column, OptionFrame frame);
     void AddNumbers(QVBoxLayout* column);
     void AddPictures(QVBoxLayout* column);

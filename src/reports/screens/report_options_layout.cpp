@@ -183,7 +183,7 @@ QWidget* frmReportOptions::MakePages() {
     return tabs_;
 }
 
-QWidget* frmReportOptions::MakePage(std::vector<OptionFrame> frames, QVBoxLayout*& column) {
+QWidget* frmReportOptions::MakePage(const std::vector<OptionFrame>& frames, QVBoxLayout*& column) {
     auto* area = new QScrollArea(this);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
