@@ -74,7 +74,6 @@ void frmReportOptions::MarkFrame(OptionFrame frame, bool marked) {
 
 void frmReportOptions::OptionChanged() {
     if (showing_) return;
-    State().ProjectChanged = true;
     if (values_.Mark("chkAutoRefresh") == 1) refresh_.start();
 }
 
@@ -91,6 +90,10 @@ void frmReportOptions::StoreFields() {
 bool frmReportOptions::Save() {
     StoreNumbers();
     StoreFields();
+    // All options but these two belong to the program, not to the project.
+    if (values_.Mark("chkClientComment") != Project().GPDClientFormat.ClientPrintComment ||
+        values_.Mark("chkCompComment") != Project().GPDCompanyFormat.CompanyPrintComment)
+        State().ProjectChanged = true;
     return Guarded([this] { SaveReportOptions(values_, Project()); });
 }
 
@@ -123,6 +126,7 @@ void frmReportOptions::cmbProposalFormats_Change() {
                     "This Proposal Format is corrupted.  You need to delete it and recreate it.");
         return;
     }
+    State().ProjectChanged = true;  // its footnotes are others now
     footnotes_->Refill();
     ShowOptions();
     OptionChanged();
