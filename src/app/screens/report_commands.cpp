@@ -5,6 +5,7 @@
 #include "project/project_records.h"
 #include "reports/generate_reports.h"
 #include "reports/package.h"
+#include "reports/screens/print_document.h"
 #include "reports/screens/report_run.h"
 
 namespace tendo {

@@ -6,6 +6,7 @@
 #include "reports/generate_reports.h"
 #include "reports/screens/frm_owner.h"
 #include "reports/screens/preview_pane.h"
+#include "reports/screens/print_document.h"
 
 namespace tendo {
 namespace {

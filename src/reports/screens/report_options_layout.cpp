@@ -19,6 +19,7 @@
 #include "reports/screens/frm_preview.h"
 #include "reports/screens/frm_report_options.h"
 #include "reports/screens/preview_pane.h"
+#include "reports/screens/print_document.h"
 #include "reports/screens/style_page.h"
 
 namespace tendo {

@@ -22,9 +22,6 @@ const ReportRun& RunReports(const std::function<void(PrintSurface&)>& reports);
 /// Empty before the first run.
 const ReportRun& LastReportRun();
 
-/// Sends a document to a printer through the printer dialog. False when the user gave up; a failure
-/// is told.
-bool PrintDocument(const Document& document);
 /// Asks for a file and writes the document as PDF; a failure is told. False when nothing was
 /// written.
 bool ExportDocument(const Document& document);
