@@ -1,5 +1,7 @@
 #include "reports/generate_reports.h"
 
+#include <string>
+
 #include "platform/text/runtime_error.h"
 #include "reports/sales_report.h"
 #include "reports/title_report.h"
@@ -9,12 +11,18 @@ namespace tendo {
 namespace {
 
 constexpr int StartDocument = 3, EndDocument = 6;
+constexpr const char *TitleName = "Title Report", *SalesName = "Sales Report",
+                     *CostName = "Detailed Cost Report",
+                     *AccessoriesName = "Optional Accessories Report",
+                     *InstallersName = "Installer's Report";
 
-void RunQuietly(ReportProcedure report, ReportContext& context) {
+/// The page written until a report's figures give out is of use, so only the rest is lost.
+void Run(ReportContext& context, const char* name, ReportProcedure report) {
     try {
         report(context);
-    } catch (const RuntimeError&) {
-        // The report stops where its figures gave out; the page written so far is of use.
+    } catch (const RuntimeError& error) {
+        context.Problems.push_back("The " + std::string(name) + " is not complete. " +
+                                   error.Description());
     }
 }
 
@@ -23,10 +31,10 @@ ReportProcedure CostReport(const ReportContext& context) {
                                                   : Reports().PrintCustomerCostReport;
 }
 
-bool PreviewOnly(ReportContext& context, ReportProcedure report) {
+bool PreviewOnly(ReportContext& context, const char* name, ReportProcedure report) {
     context.surface.Action(StartDocument);
     if (context.surface.Error()) return false;
-    if (report) RunQuietly(report, context);
+    if (report) Run(context, name, report);
     context.surface.Action(EndDocument);
     return true;
 }
@@ -46,46 +54,47 @@ void GenerateReports(ReportContext& context) {
             context.surface.NewPage();
     };
     context.surface.Action(StartDocument);
-    if (marked("chkPrintTitleReport")) RunQuietly(PrintTitleReport, context);
+    if (marked("chkPrintTitleReport")) Run(context, TitleName, PrintTitleReport);
     if (marked("chkPrintSalesReport")) {
         context.SuppressNextPageHeader = true;
         if (marked("chkPrintTitleReport")) context.surface.NewPage();
-        RunQuietly(PrintSalesReport, context);
+        Run(context, SalesName, PrintSalesReport);
     }
     if (const ReportProcedure report = CostReport(context);
         report && marked("chkPrintDetailedCostReport")) {
         context.SuppressNextPageHeader = true;
         breakPage();
-        RunQuietly(report, context);
+        Run(context, CostName, report);
     }
-    const auto print = [&](const char* key, ReportProcedure report) {
+    const auto print = [&](const char* key, const char* name, ReportProcedure report) {
         if (!report || !marked(key)) return;
         breakPage();
-        RunQuietly(report, context);
+        Run(context, name, report);
     };
-    print("chkPrintOptionalAccessoriesRpt", Reports().PrintOptionalAccessoriesReport);
-    print("chkPrintInstallersReport", Reports().PrintInstallersReport);
+    print("chkPrintOptionalAccessoriesRpt", AccessoriesName,
+          Reports().PrintOptionalAccessoriesReport);
+    print("chkPrintInstallersReport", InstallersName, Reports().PrintInstallersReport);
     context.surface.Action(EndDocument);
 }
 
 bool PreviewTitleOnly(ReportContext& context) {
-    return PreviewOnly(context, PrintTitleReport);
+    return PreviewOnly(context, TitleName, PrintTitleReport);
 }
 
 bool PreviewSalesOnly(ReportContext& context) {
-    return PreviewOnly(context, PrintSalesReport);
+    return PreviewOnly(context, SalesName, PrintSalesReport);
 }
 
 bool PreviewCostOnly(ReportContext& context) {
-    return PreviewOnly(context, CostReport(context));
+    return PreviewOnly(context, CostName, CostReport(context));
 }
 
 bool PreviewAccessoriesOnly(ReportContext& context) {
-    return PreviewOnly(context, Reports().PrintOptionalAccessoriesReport);
+    return PreviewOnly(context, AccessoriesName, Reports().PrintOptionalAccessoriesReport);
 }
 
 bool PreviewInstallersOnly(ReportContext& context) {
-    return PreviewOnly(context, Reports().PrintInstallersReport);
+    return PreviewOnly(context, InstallersName, Reports().PrintInstallersReport);
 }
 
 }  // namespace tendo

@@ -16,8 +16,8 @@ struct ReportProcedures {
 };
 const ReportProcedures& Reports();
 
-/// Writes all marked reports as one document. A report that ends with an error ends quietly there;
-/// what it wrote stays, and the reports behind it follow.
+/// Writes all marked reports as one document. A report that meets an error ends there and is told
+/// of in `context.Problems`; what it wrote stays, and the reports behind it follow.
 void GenerateReports(ReportContext& context);
 
 /// One report alone. False, with nothing written, when the surface can't start a document: the

@@ -35,12 +35,14 @@ void SetDocumentNames(Document& document, const ProjectRecords& project) {
 }
 
 Document BuildReportPackage(ProjectRecords& project, TextMeasurer& measurer,
-                            const std::optional<ReportSelection>& selection) {
+                            const std::optional<ReportSelection>& selection,
+                            std::vector<std::string>* problems) {
     LayoutSurface surface(measurer);
     ReportContext context(surface, project);
     if (selection)
         context.isMarked = [&](const char* option) { return IsChosen(*selection, option); };
     GenerateReports(context);
+    if (problems) *problems = context.Problems;
     Document document = surface.TakeResult();
     SetDocumentNames(document, project);
     return document;

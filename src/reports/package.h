@@ -1,6 +1,8 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "platform/print/document.h"
 #include "platform/print/text_measurer.h"
@@ -14,8 +16,10 @@ struct ReportSelection {
 };
 
 /// The whole report package of a project, laid out. Without a selection the report options decide.
+/// `problems`, when given, gets what the user is to know of reports that aren't complete.
 Document BuildReportPackage(ProjectRecords& project, TextMeasurer& measurer,
-                            const std::optional<ReportSelection>& selection = {});
+                            const std::optional<ReportSelection>& selection = {},
+                            std::vector<std::string>* problems = nullptr);
 
 /// Title and author of a project's document.
 void SetDocumentNames(Document& document, const ProjectRecords& project);

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/print/print_surface.h"
 #include "project/project_records.h"
@@ -26,6 +27,9 @@ class ReportContext {
     /// Whether a report option, by its key, is marked; reads the profile unless a caller chose
     /// itself.
     std::function<bool(const char* key)> isMarked = ReportOptionIsOn;
+    /// What the user is to know of reports that ended before their end, a text for each: which
+    /// report, why, what is left out, what to do.
+    std::vector<std::string> Problems;
 
   private:
     void NewPageOpened();

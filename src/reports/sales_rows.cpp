@@ -109,6 +109,16 @@ CellSource ModelNumberSource(Side side) {
 constexpr std::array<CellSource, SideCount> ModelTypes = {Of<&CLG::ModelType>, Of<&HTG::ModelType>,
                                                           Of<&WH::ModelType>};
 
+struct SelectedField {
+    const char* name;
+    std::int16_t SystemInfoRecord::*selected;
+};
+constexpr std::array<SelectedField, SideCount> SelectedFields = {{
+    {"cooling", &SystemInfoRecord::CLGSystemSelected},
+    {"heating", &SystemInfoRecord::HTGSystemSelected},
+    {"water heating", &SystemInfoRecord::WHSystemSelected},
+}};
+
 }  // namespace
 
 std::span<const SalesRow> SalesRows() {
@@ -124,12 +134,16 @@ std::string ModelType(const ProjectRecords& project, Side side, int system) {
 }
 
 int SelectedSystem(const ProjectRecords& project, Side side, int system) {
-    const SystemInfoRecord& info = project.SystemInfo[static_cast<std::size_t>(system)];
-    const int selected = side == Side::Cooling   ? info.CLGSystemSelected
-                         : side == Side::Heating ? info.HTGSystemSelected
-                                                 : info.WHSystemSelected;
-    if (selected < 0 || selected >= SystemCount) ThrowError(error_number::SubscriptOutOfRange);
-    return selected;
+    const SelectedField& field = SelectedFields[static_cast<std::size_t>(side)];
+    const int selected = project.SystemInfo[static_cast<std::size_t>(system)].*field.selected;
+    if (selected >= 0 && selected < SystemCount) return selected;
+    throw RuntimeError(
+        error_number::SubscriptOutOfRange,
+        "The " + std::string(field.name) + " operating cost of system " +
+            std::to_string(system + 1) + " is to come from system " + std::to_string(selected + 1) +
+            ", which does not exist, so the comparison table and the footnotes behind "
+            "it are left out. Switch off the operating cost of the selected system "
+            "in the report options, then write the report again.");
 }
 
 std::string CellText(const ProjectRecords& project, const SalesRow& row, Side side, int system,

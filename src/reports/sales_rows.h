@@ -44,8 +44,8 @@ std::span<const SalesRow> SalesRows();
 std::string ModelNumber(const ProjectRecords& project, Side side, int system);
 std::string ModelType(const ProjectRecords& project, Side side, int system);
 
-/// The system that a side's operating cost is taken from, from 0. Throws RuntimeError 9 when a
-/// record names none of the five.
+/// The system that a side's operating cost is taken from, from 0. Throws RuntimeError 9,
+/// which tells the user why, when a record names none of the five.
 int SelectedSystem(const ProjectRecords& project, Side side, int system);
 
 /// The text of a row's cell. `valueSystem` gives the value, `system` the model that lets it be

@@ -4,8 +4,9 @@
 #include <array>
 #include <initializer_list>
 
-#include "platform/text/runtime_error.h"
 #include "reports/report_settings.h"
+#include "reports/sales_columns.h"
+#include "reports/sales_rows.h"
 
 namespace tendo {
 
@@ -141,13 +142,6 @@ void PrintColumns(PrintSurface& surface, const ProjectRecords& project, int coun
 
 }  // namespace
 
-int CountPricedSystems(const ProjectRecords& project) {
-    return static_cast<int>(
-        std::count_if(project.ModelInfo.begin(), project.ModelInfo.end(), [](const auto& info) {
-            return info.CLGSalePrice != 0 || info.HTGSalePrice != 0 || info.WHSalePrice != 0;
-        }));
-}
-
 SalesTableForm FormOfSalesTable(int systems, bool withHotWater) {
     static constexpr std::array<SalesTableForm, 5> Forms = {{
         {"<~3600|<~2400|<~2400|<~2350", "|COOLING|HEATING|HOT WATER"},
@@ -160,28 +154,6 @@ SalesTableForm FormOfSalesTable(int systems, bool withHotWater) {
     // Without hot water the table keeps its fourth column, and so its width.
     if (systems == 1 && !withHotWater) return {Forms[0].format, "|COOLING|HEATING|"};
     return Forms.at(static_cast<std::size_t>(systems - 1));
-}
-
-int SystemOfSingleTable(const ProjectRecords& project) {
-    for (int system = SystemCount - 1; system >= 0; --system) {
-        const ModelInfoRecord& info = project.ModelInfo[static_cast<std::size_t>(system)];
-        // Cooling and heating are found by their cost, not by the price that the count goes by:
-        // meant so.
-        if (info.CLGModelDealerCost != 0 || info.HTGModelDealerCost != 0 || info.WHSalePrice != 0)
-            return system;
-    }
-    ThrowError(error_number::SubscriptOutOfRange);
-}
-
-std::vector<int> SystemsOfColumns(const ProjectRecords& project, int count) {
-    std::vector<int> systems;
-    for (int system = 0; system < SystemCount; ++system)
-        if (!ModelNumber(project, Side::Cooling, system).empty() ||
-            !ModelNumber(project, Side::Heating, system).empty())
-            systems.push_back(system);
-    if (static_cast<int>(systems.size()) < count) ThrowError(error_number::SubscriptOutOfRange);
-    systems.resize(static_cast<std::size_t>(count));
-    return systems;
 }
 
 std::string SpacerRow(int columns) {

@@ -149,6 +149,17 @@ TEST_F(GeneratedReports, APackageHoldsTheChosenReportsWhateverIsMarked) {
     EXPECT_TRUE(BuildReportPackage(project, measurer).pages.empty());
 }
 
+TEST_F(GeneratedReports, APackageTellsWhatIsMissingInIt) {
+    MarkOnly({"chkPrintTitleReport", "chkPrintSalesReport"});
+    Values problems{"of an earlier package"};
+    FillSystem(project, 0);
+    BuildReportPackage(project, measurer, {}, &problems);
+    EXPECT_EQ(problems, Values{});
+    project.ModelInfo[1].WHSalePrice = 800;
+    EXPECT_EQ(BuildReportPackage(project, measurer, {}, &problems).pages.size(), 2U);
+    EXPECT_THAT(problems, testing::ElementsAre(testing::StartsWith("The Sales Report is not")));
+}
+
 TEST_F(GeneratedReports, SectionsOfTheSalesReportMakeTheOutline) {
     MarkOnly({"chkPrintSalesReport"});
     AddLongFootnote();

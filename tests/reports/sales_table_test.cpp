@@ -5,6 +5,8 @@
 #include "platform/text/runtime_error.h"
 #include "report_fixture.h"
 #include "reports/generate_reports.h"
+#include "reports/sales_columns.h"
+#include "reports/sales_rows.h"
 
 namespace tendo {
 namespace {
@@ -12,6 +14,7 @@ namespace {
 using testing::Contains;
 using testing::ElementsAre;
 using testing::EndsWith;
+using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 using Rows = std::vector<std::string>;
@@ -229,10 +232,38 @@ TEST_F(SalesTable, TheReportThatEndsThereIsAProperDocument) {
     EXPECT_EQ(layout.Result().pages.size(), 1U);
 }
 
+TEST_F(SalesTable, TheUserIsToldWhichSystemEndedTheReportAndWhatToDo) {
+    Fill(1);
+    Info(1).WHSalePrice = 800;
+    PreviewSalesOnly(context);
+    EXPECT_EQ(context.Problems,
+              Rows{"The Sales Report is not complete. System 2 has a price but neither a cooling "
+                   "nor a heating model, so the comparison table and the footnotes behind it are "
+                   "left out. Choose a model there, or set the prices there to 0. Then write the "
+                   "report again."});
+}
+
+TEST_F(SalesTable, TheUserIsToldOfEachSystemWithoutAColumn) {
+    Fill(1);
+    for (const std::size_t system : {1U, 2U, 4U})
+        Info(system).WHSalePrice = 800;
+    PreviewSalesOnly(context);
+    EXPECT_THAT(context.Problems,
+                ElementsAre(HasSubstr(". Systems 2, 3 and 5 have a price but neither ")));
+}
+
+TEST_F(SalesTable, ACompleteReportTellsNothing) {
+    Fill(5);
+    PreviewSalesOnly(context);
+    EXPECT_EQ(context.Problems, Rows{});
+}
+
 TEST_F(SalesTable, APriceWithoutAnyCostEndsTheReport) {
     Info(0).CLGSalePrice = 100;
-    surface.Action(3);
-    EXPECT_THROW(PrintSalesTable(surface, project), RuntimeError);
+    PreviewSalesOnly(context);
+    EXPECT_EQ(CountOf("AddTable"), 1);  // the Project Summary
+    EXPECT_THAT(context.Problems,
+                ElementsAre(HasSubstr("System 1 has a price but no dealer cost, so the ")));
 }
 
 TEST_F(SalesTable, ASystemWithAModelButNoPriceTakesAColumnAheadOfAPricedOne) {
@@ -304,9 +335,12 @@ TEST_F(SalesTable, TheOperatingCostsOfSeveralSystemsFollowTheSelectedOnes) {
 TEST_F(SalesTable, ASelectedSystemThatIsNoneEndsTheReport) {
     Fill(1);
     project.SystemInfo[0].CLGSystemSelected = 5;
-    surface.Action(3);
-    EXPECT_THROW(PrintSalesTable(surface, project), RuntimeError);
+    PreviewSalesOnly(context);
+    EXPECT_THAT(context.Problems,
+                ElementsAre(HasSubstr("The cooling operating cost of system 1 is to come from "
+                                      "system 6, which does not exist, so the comparison table ")));
     Option("chkSelectedOpCost", "0");
+    surface.Action(3);
     EXPECT_NO_THROW(PrintSalesTable(surface, project));
 }
 

@@ -12,10 +12,7 @@ namespace tendo {
 
 void mnuFilePrint_Click() {
     HourglassPointer();
-    Document document = RunReports([](PrintSurface& surface) {
-                            ReportContext context(surface, Project());
-                            GenerateReports(context);
-                        }).document;
+    Document document = RunReports(GenerateReports).document;
     SetDocumentNames(document, Project());
     NormalPointer();
     PrintDocument(document);

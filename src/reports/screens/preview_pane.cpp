@@ -138,10 +138,7 @@ void PreviewPane::RunReport(int index) {
     Form::StoreAllFields();
     const ReportChoice& choice = choices_[static_cast<std::size_t>(index)];
     bool started = true;
-    document_ = RunReports([&](PrintSurface& surface) {
-                    ReportContext context(surface, Project());
-                    started = choice.run(context);
-                }).document;
+    document_ = RunReports([&](ReportContext& context) { started = choice.run(context); }).document;
     if (!started) QApplication::beep();
     SetDocumentNames(document_, Project());
     page_ = 0;

@@ -16,12 +16,14 @@ ReportRun lastRun;
 
 }  // namespace
 
-const ReportRun& RunReports(const std::function<void(PrintSurface&)>& reports) {
+const ReportRun& RunReports(const std::function<void(ReportContext&)>& reports) {
     QtTextMeasurer measurer;
     LayoutSurface layout(measurer);
     RecordingSurface surface(layout);
-    reports(surface);
-    lastRun = {layout.TakeResult(), surface.Calls(), lastRun.number + 1};
+    ReportContext context(surface, Project());
+    reports(context);
+    lastRun = {layout.TakeResult(), surface.Calls(), std::move(context.Problems),
+               lastRun.number + 1};
     return lastRun;
 }
 

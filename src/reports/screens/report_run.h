@@ -1,11 +1,12 @@
 #pragma once
 
 #include <functional>
-#include <memory>
+#include <string>
 #include <vector>
 
 #include "platform/print/document.h"
 #include "platform/print/recording_surface.h"
+#include "reports/preview_code.h"
 
 namespace tendo {
 
@@ -14,11 +15,12 @@ namespace tendo {
 struct ReportRun {
     Document document;
     std::vector<SurfaceCall> calls;
-    int number = 0;  // counts the runs of the program
+    std::vector<std::string> problems;  // what the user is to know of reports that aren't complete
+    int number = 0;                     // counts the runs of the program
 };
 
-/// Runs reports and keeps the result as the last run.
-const ReportRun& RunReports(const std::function<void(PrintSurface&)>& reports);
+/// Runs reports on the open project and keeps the result as the last run.
+const ReportRun& RunReports(const std::function<void(ReportContext&)>& reports);
 /// Empty before the first run.
 const ReportRun& LastReportRun();
 
