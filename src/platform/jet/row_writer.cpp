@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "platform/jet/column_size.h"
 #include "platform/jet/value_text.h"
 #include "platform/text/code_page.h"
 #include "platform/text/runtime_error.h"
@@ -104,35 +105,17 @@ bool MaskBit(const ValueView& value) {
 
 }  // namespace
 
-bool IsFixedType(ColumnType type) {
-    return type != ColumnType::Text && type != ColumnType::Memo && type != ColumnType::Ole &&
-           type != ColumnType::Binary;
-}
-
-std::uint16_t SizeOfType(ColumnType type, int characters) {
-    switch (type) {
-        case ColumnType::Boolean:
-        case ColumnType::Byte:
-            return 1;
-        case ColumnType::Integer:
-            return 2;
-        case ColumnType::Long:
-        case ColumnType::Single:
-            return 4;
-        case ColumnType::Currency:
-        case ColumnType::Double:
-        case ColumnType::Date:
-            return 8;
-        case ColumnType::Guid:
-            return 16;
-        case ColumnType::Numeric:
-            return 17;
-        case ColumnType::Text:
-            return static_cast<std::uint16_t>(2 * characters);
-        case ColumnType::Binary:
-            return static_cast<std::uint16_t>(characters);
-        default:
-            return 0;
+void PlaceColumns(std::vector<PlannedColumn>& columns) {
+    std::uint16_t offset = 0, variable = 0;
+    for (PlannedColumn& column : columns) {
+        column.bytes = SizeOfType(column.column.type, column.column.size);
+        column.variable = variable;
+        if (!column.IsFixed()) {
+            ++variable;
+        } else if (column.column.type != ColumnType::Boolean) {
+            column.offset = offset;
+            offset = static_cast<std::uint16_t>(offset + column.bytes);
+        }
     }
 }
 

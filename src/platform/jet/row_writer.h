@@ -24,9 +24,9 @@ struct PlannedColumn {
     }
 };
 
-/// Bytes of a fixed type (0 for Boolean), or nothing said for variable ones.
-bool IsFixedType(ColumnType type);
-std::uint16_t SizeOfType(ColumnType type, int characters);
+/// Gives each column its declared size and its place among the fixed or the variable ones; the
+/// columns stand by number and have their types and flags.
+void PlaceColumns(std::vector<PlannedColumn>& columns);
 
 /// The long values of one column: packed rows and chains on pages of their own.
 class LongValueWriter {

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <span>
 
+#include "platform/jet/header_mask.h"
 namespace tendo::jet {
 namespace {
 
@@ -58,24 +59,16 @@ TablePlan Plan(const char* name, std::span<const ColumnSpec> columns,
     plan.firstDataPage = dataPage;
     plan.mapPages = {MapPage};
     plan.firstMap = firstMap;
-    std::uint16_t offset = 0, variable = 0;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         PlannedColumn column;
         column.column.name = columns[i].name;
         column.column.type = columns[i].type;
         column.column.size = columns[i].type == Text ? 255 : columns[i].type == Binary ? 510 : 0;
         column.number = static_cast<std::uint16_t>(i);
-        column.variable = variable;
-        column.bytes = SizeOfType(columns[i].type, column.column.size);
         column.flags = columns[i].flags;
-        if (!column.IsFixed()) {
-            ++variable;
-        } else if (columns[i].type != Boolean) {
-            column.offset = offset;
-            offset = static_cast<std::uint16_t>(offset + column.bytes);
-        }
         plan.columns.push_back(std::move(column));
     }
+    PlaceColumns(plan.columns);
     for (const IndexSpec& index : indexes)
         plan.indexes.push_back({index.name, index.columns, std::vector<bool>(index.columns.size()),
                                 index.flags, index.type, index.root});
@@ -161,23 +154,12 @@ RowSource AceRows(const std::vector<CatalogueRow>& tables) {
     };
 }
 
-/// XORed onto the header from 0x18 on.
-constexpr unsigned char headerMask[128] = {
-    0xb5, 0x6f, 0x03, 0x62, 0x61, 0x08, 0xc2, 0x55, 0xeb, 0xa9, 0x67, 0x72, 0x43, 0x3f, 0x00, 0x9c,
-    0x7a, 0x9f, 0x90, 0xff, 0x80, 0x9a, 0x31, 0xc5, 0x79, 0xba, 0xed, 0x30, 0xbc, 0xdf, 0xcc, 0x9d,
-    0x63, 0xd9, 0xe4, 0xc3, 0x7b, 0x42, 0xfb, 0x8a, 0xbc, 0x4e, 0x86, 0xfb, 0xec, 0x37, 0x5d, 0x44,
-    0x9c, 0xfa, 0xc6, 0x5e, 0x28, 0xe6, 0x13, 0xb6, 0x8a, 0x60, 0x54, 0x94, 0x7b, 0x36, 0xf5, 0x72,
-    0xdf, 0xb1, 0x77, 0xf4, 0x13, 0x43, 0xcf, 0xaf, 0xb1, 0x33, 0x34, 0x61, 0x79, 0x5b, 0x92, 0xb5,
-    0x7c, 0x2a, 0x05, 0xf1, 0x7c, 0x99, 0x01, 0x1b, 0x98, 0xfd, 0x12, 0x4f, 0x4a, 0x94, 0x6c, 0x3e,
-    0x60, 0x26, 0x5f, 0x95, 0xf8, 0xd0, 0x89, 0x24, 0x85, 0x67, 0xc6, 0x1f, 0x27, 0x44, 0xd2, 0xee,
-    0xcf, 0x65, 0xed, 0xff, 0x07, 0xc7, 0x46, 0xa1, 0x78, 0x16, 0x0c, 0xed, 0xe9, 0x2d, 0x62, 0xd4};
-
 std::string HeaderPage() {
     std::string page(FileBuilder::PageSize, '\0');
     PutDword(page, 0, 0x100);
     page.replace(4, 16, std::string("Standard Jet DB\0", 16));
     page[0x14] = 1;
-    PutDword(page, 0x18, 0x100);
+    PutDword(page, MaskedFrom, 0x100);
     PutDword(page, 0x1c, 0x101);
     for (std::uint32_t i = 0; i < 4; ++i)
         PutDword(page, 0x20 + 4 * i, 2 + i);
@@ -188,9 +170,7 @@ std::string HeaderPage() {
     PutDword(page, 0x6e, 0x0409);
     // This date belongs to the user names above; the tables' own dates stand in the catalogue.
     page.replace(0x72, 8, std::string("\x75\x67\x3b\x03\xf7\x20\xe6\x40", 8));
-    for (std::size_t i = 0; i < std::size(headerMask); ++i)
-        page[0x18 + i] =
-            static_cast<char>(static_cast<unsigned char>(page[0x18 + i]) ^ headerMask[i]);
+    MaskHeader(std::span(page).subspan(MaskedFrom, HeaderMaskSize));
     PutDword(page, 0x98, 0x654);
     page.replace(0x9c, 3, "4.0");
     PutWord(page, 0xe00, 0x0101);

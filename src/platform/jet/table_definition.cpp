@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/jet/column_size.h"
 #include "platform/text/code_page.h"
 
 namespace tendo::jet {
@@ -185,27 +186,9 @@ void CheckFixedPart(const Layout& layout, const StoredTable& table) {
 }  // namespace
 
 std::size_t StoredColumn::FixedBytes() const {
-    switch (column.type) {
-        case ColumnType::Boolean:
-            return 0;
-        case ColumnType::Byte:
-            return 1;
-        case ColumnType::Integer:
-            return 2;
-        case ColumnType::Long:
-        case ColumnType::Single:
-            return 4;
-        case ColumnType::Currency:
-        case ColumnType::Double:
-        case ColumnType::Date:
-            return 8;
-        case ColumnType::Guid:
-            return 16;
-        case ColumnType::Numeric:
-            return 17;
-        default:
-            return bytes;
-    }
+    if (column.type == ColumnType::Boolean) return 0;  // it stands in the row's mask
+    const std::size_t ofType = SizeOfType(column.type, 0);
+    return ofType != 0 ? ofType : bytes;
 }
 
 std::string StoredText(const PageFile& file, std::string_view bytes) {

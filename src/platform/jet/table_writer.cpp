@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/jet/column_size.h"
 #include "platform/jet/definition_writer.h"
 #include "platform/jet/index_key.h"
 #include "platform/jet/index_writer.h"
@@ -52,23 +53,16 @@ std::size_t MapCount(const TablePlan& plan) {
 }
 
 void PlanColumns(const TableDefinition& definition, TablePlan& plan) {
-    std::uint16_t offset = 0, variable = 0, number = 0;
+    std::uint16_t number = 0;
     for (const Column& column : definition.columns) {
         PlannedColumn planned;
         planned.column = column;
         planned.number = number++;
-        planned.variable = variable;
-        planned.bytes = SizeOfType(column.type, column.size);
         planned.flags = IsFixedType(column.type) ? 3 : 2;
         if (column.autoNumber) planned.flags |= 4;
-        if (!planned.IsFixed()) {
-            ++variable;
-        } else if (column.type != ColumnType::Boolean) {
-            planned.offset = offset;
-            offset = static_cast<std::uint16_t>(offset + planned.bytes);
-        }
         plan.columns.push_back(std::move(planned));
     }
+    PlaceColumns(plan.columns);
 }
 
 /// The rows of one table on their way to pages.
