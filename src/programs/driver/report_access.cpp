@@ -6,23 +6,14 @@
 namespace tendo::driver {
 namespace {
 
-Json FieldJson(const CallValue& value) {
-    if (const auto* flag = std::get_if<bool>(&value)) return *flag;
-    if (const auto* number = std::get_if<std::int32_t>(&value)) return *number;
-    return std::get<std::string>(value);
-}
-
 Json CallAsJson(const SurfaceCall& call) {
-    Json json = {{"op", call.op}};
-    for (const auto& [name, value] : call.fields)
-        json[name] = FieldJson(value);
-    return json;
+    return Json::parse(CallJson(call));
 }
 
 /// OP [KEY VALUE ...]; a single word behind the op is its value.
 bool Fits(const SurfaceCall& call, const Words& words) {
-    const Json json = CallAsJson(call);
     if (words.empty() || words[0] != call.op) return false;
+    const Json json = CallAsJson(call);
     if (words.size() == 2) return json.contains("value") && Agrees(words[1], json["value"]);
     for (std::size_t i = 1; i + 1 < words.size(); i += 2)
         if (!json.contains(words[i]) || !Agrees(words[i + 1], json[words[i]])) return false;
