@@ -3,7 +3,6 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "materials/catalogue_merge.h"
 #include "materials/material_catalogue.h"
@@ -15,7 +14,6 @@
 #include "platform/files/paths.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
-#include "platform/qt/scroll_content.h"
 #include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
 #include "pricing/screens/frm_sum_rpt_data.h"
@@ -62,20 +60,10 @@ QString NoteOf(const MergeCounts& counts) {
 
 frmMatCosts::frmMatCosts() : Form("frmMatCosts", caption, Place::Child, "frmMatCosts") {
     State().MaterialDatabaseHeld = true;
-    content_ = new QWidget;
-    page_ = new TakeoffPage(MaterialCatalogue(), caption, content_);
-    auto* column = new QVBoxLayout(content_);
-    column->setContentsMargins(16, 12, 16, 12);
-    column->setSpacing(10);
-    column->addWidget(page_);
-    column->addWidget(MakeDatabaseBar());
-    column->addStretch();
+    page_ = TakeoffPage::On(this, MaterialCatalogue(), caption);
+    page_->AddBelow(MakeDatabaseBar());
     AddListChoice();
     AddNeighbours();
-    ScrollContent(this, content_);
-    setMinimumSize(560, 320);
-    setWindowTitle(Q(page_->Rows().Title()));
-    connect(page_, &TakeoffPage::TitleChanged, this, &QWidget::setWindowTitle);
     connect(page_, &TakeoffPage::Cleared, this, [this] {
         chosenList_ = noList;
         lists_->setCurrentText(noList);
@@ -87,13 +75,8 @@ frmMatCosts::frmMatCosts() : Form("frmMatCosts", caption, Place::Child, "frmMatC
     txtDatabase_->setText(Q(State().MaterialDatabaseName));
 }
 
-QSize frmMatCosts::sizeHint() const {
-    constexpr int scrollBar = 24;
-    return {content_->sizeHint().width() + scrollBar, content_->sizeHint().height()};
-}
-
 QWidget* frmMatCosts::MakeDatabaseBar() {
-    auto* box = new QWidget(content_);
+    auto* box = new QWidget(page_);
     auto* bar = new QHBoxLayout(box);
     bar->setContentsMargins(0, 0, 0, 0);
     bar->setSpacing(8);

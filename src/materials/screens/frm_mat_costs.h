@@ -16,7 +16,6 @@ class frmMatCosts : public Form {
     Q_OBJECT
   public:
     frmMatCosts();
-    QSize sizeHint() const override;
 
     /// Reads the price book anew and enters the selections into it: another screen has changed the
     /// materials, or the catalogue in memory.
@@ -41,7 +40,6 @@ class frmMatCosts : public Form {
     void OpenNeighbour(const QString& screen);
 
     TakeoffPage* page_ = nullptr;
-    QWidget* content_ = nullptr;
     TextField* txtDatabase_ = nullptr;
     QComboBox* lists_ = nullptr;
     std::vector<std::pair<QPushButton*, QString>> neighbours_;

@@ -2,7 +2,6 @@
 
 #include <QLabel>
 #include <QPushButton>
-#include <QVBoxLayout>
 #include <optional>
 #include <utility>
 
@@ -13,7 +12,6 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/enhanced_input.h"
 #include "platform/qt/fields.h"
-#include "platform/qt/scroll_content.h"
 #include "platform/text/text.h"
 #include "project/program_state.h"
 
@@ -60,27 +58,13 @@ frmMatList::frmMatList(const std::string& name, bool isNew, std::vector<Material
     : Form("frmMatList", caption, Place::Child, "frmMatList"),
       catalogue_(std::move(catalogue)),
       saved_(catalogue_),
-      savedName_(isNew ? "" : name),
-      content_(new QWidget) {
+      savedName_(isNew ? "" : name) {
     State().MaterialListEditorIsOpen = true;
-    page_ = new TakeoffPage(catalogue_, caption, content_, true);
-    auto* column = new QVBoxLayout(content_);
-    column->setContentsMargins(16, 12, 16, 12);
-    column->addWidget(page_);
-    column->addStretch();
-    ScrollContent(this, content_);
-    setMinimumSize(560, 320);
-    connect(page_, &TakeoffPage::TitleChanged, this, &QWidget::setWindowTitle);
+    page_ = TakeoffPage::On(this, catalogue_, caption, true);
     AddName(name);
     AddSave();
     page_->FillCategories();
     page_->ShowCatalogue();
-    setWindowTitle(QString::fromStdString(page_->Rows().Title()));
-}
-
-QSize frmMatList::sizeHint() const {
-    constexpr int scrollBar = 24;
-    return {content_->sizeHint().width() + scrollBar, content_->sizeHint().height()};
 }
 
 void frmMatList::AddName(const std::string& name) {

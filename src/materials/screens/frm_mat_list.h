@@ -18,7 +18,6 @@ class frmMatList : public Form {
   public:
     /// `catalogue`: the current price book with the list's selections.
     frmMatList(const std::string& name, bool isNew, std::vector<MaterialRow> catalogue);
-    QSize sizeHint() const override;
 
   protected:
     bool QueryUnload() override;
@@ -36,7 +35,6 @@ class frmMatList : public Form {
     std::vector<MaterialRow> catalogue_;
     std::vector<MaterialRow> saved_;  // the rows as they were read or saved
     std::string savedName_;           // empty for a list that was never saved
-    QWidget* content_;
     TakeoffPage* page_ = nullptr;
     TextField* txtListName_ = nullptr;
 };

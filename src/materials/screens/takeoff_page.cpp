@@ -10,6 +10,7 @@
 #include "platform/database/database.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/form.h"
+#include "platform/qt/scroll_content.h"
 #include "platform/text/number_text.h"
 #include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
@@ -72,6 +73,21 @@ TakeoffPage::TakeoffPage(std::vector<MaterialRow>& catalogue, const std::string&
     lastAbove_ = viewButtons_.back();
     lastBelow_ = grid_->LastField();
     ShowSums();
+}
+
+TakeoffPage* TakeoffPage::On(QWidget* screen, std::vector<MaterialRow>& catalogue,
+                             const std::string& caption, bool keepsTitle) {
+    auto* content = new QWidget;
+    auto* page = new TakeoffPage(catalogue, caption, content, keepsTitle);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(16, 12, 16, 12);
+    column->addWidget(page);
+    column->addStretch();
+    ScrollContent(screen, content);
+    screen->setMinimumSize(560, 320);
+    screen->setWindowTitle(QString::fromStdString(page->Rows().Title()));
+    connect(page, &TakeoffPage::TitleChanged, screen, &QWidget::setWindowTitle);
+    return page;
 }
 
 TakeoffPage::~TakeoffPage() {

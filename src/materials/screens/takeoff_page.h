@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QLayout>
 #include <QPushButton>
 #include <QWidget>
 #include <string>
@@ -24,6 +25,9 @@ class TakeoffPage : public QWidget {
     TakeoffPage(std::vector<MaterialRow>& catalogue, const std::string& caption, QWidget* parent,
                 bool keepsTitle = false);
     ~TakeoffPage() override;
+    /// Makes it the scrolled content of a screen, which takes its titles.
+    static TakeoffPage* On(QWidget* screen, std::vector<MaterialRow>& catalogue,
+                           const std::string& caption, bool keepsTitle = false);
 
     /// Wide enough for whole descriptions and categories; the entry lines' own hints ask for more.
     QSize sizeHint() const override;
@@ -31,6 +35,8 @@ class TakeoffPage : public QWidget {
     /// Puts a screen's own controls behind the view buttons, and in front of the buttons below.
     void AddToTopBar(QWidget* widget);
     void AddToBottomBar(QWidget* widget);
+    /// Below everything else.
+    void AddBelow(QWidget* widget) { layout()->addWidget(widget); }
     /// A button as the screens of a takeoff make them.
     QPushButton* MakeButton(const char* name, const char* caption, const char* tip);
 
