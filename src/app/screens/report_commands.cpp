@@ -1,16 +1,19 @@
 #include "app/screens/report_commands.h"
 
 #include "app/screens/pointer.h"
-#include "platform/qt/dialogs.h"
+#include "platform/qt/form.h"
 #include "project/project_records.h"
 #include "reports/generate_reports.h"
 #include "reports/package.h"
+#include "reports/screens/frm_owner.h"
 #include "reports/screens/print_document.h"
 #include "reports/screens/report_run.h"
 
 namespace tendo {
 
 void mnuFilePrint_Click() {
+    AskForOwnerOnce();
+    Form::StoreAllFields();
     HourglassPointer();
     Document document = RunReports(GenerateReports).document;
     SetDocumentNames(document, Project());
@@ -19,7 +22,7 @@ void mnuFilePrint_Click() {
 }
 
 void mnuFilePrintSetup_Click() {
-    Dialogs().Print("Printer Setup");
+    SetUpPrinter();
 }
 
 }  // namespace tendo

@@ -19,6 +19,7 @@
 #include "materials/screens/import_materials.h"
 #include "platform/database/database_hooks.h"
 #include "platform/qt/dialogs.h"
+#include "platform/qt/progress_window.h"
 #include "pricing/screens/frm_sum_model_data.h"
 #include "pricing/screens/frm_sum_rpt_data.h"
 #include "project/program_state.h"
@@ -54,20 +55,25 @@ void EnterScreens() {
     RegisterHelp();
 }
 
-bool ShowConversion(const std::string& text, int done, int whole) {
+bool ShowProgress(const std::string& text, int done, int whole) {
     const bool first = !Form::Find("frmStatus");
     auto* status = static_cast<frmStatus*>(LoadScreen("frmStatus"));
     if (first) {
+        status->setWindowTitle(QString::fromStdString(WindowOfProgress().caption));
         status->OfferCancel();
         status->ShowForm();
     }
     return status->ShowProgress(text, done, whole);
 }
 
+void WireProgress() {
+    WindowOfProgress().Show = ShowProgress;
+    WindowOfProgress().Close = [] {
+        if (Form* status = Form::Find("frmStatus")) status->Unload();
+    };
+}
+
 void WireMaterials() {
-    StatusOfConversion() = {ShowConversion, [] {
-                                if (Form* status = Form::Find("frmStatus")) status->Unload();
-                            }};
     RegisterProcedure("mnuConvertMaterialsFromExcelToAccess_Click", ImportMaterialsFromExcel);
 }
 
@@ -98,6 +104,7 @@ void WireRooms() {
                         keptAs + ".",
                     MessageIcon::Information);
     };
+    WireProgress();
     WireMaterials();
     WirePricing();
     EnterScreens();

@@ -9,6 +9,7 @@
 #include "platform/office/read_workbook.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/form.h"
+#include "platform/qt/progress_window.h"
 #include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
 #include "project/program_state.h"
@@ -17,20 +18,6 @@ namespace tendo {
 namespace {
 
 constexpr const char* messageTitle = "TENDO";
-
-bool ShowStep(const std::string& text, int done, int whole) {
-    return !StatusOfConversion().Show || StatusOfConversion().Show(text, done, whole);
-}
-
-/// The window goes when the conversion ends, however it does.
-struct WindowWhileConverting {
-    WindowWhileConverting() = default;
-    ~WindowWhileConverting() {
-        if (StatusOfConversion().Close) StatusOfConversion().Close();
-    }
-    WindowWhileConverting(const WindowWhileConverting&) = delete;
-    WindowWhileConverting& operator=(const WindowWhileConverting&) = delete;
-};
 
 std::optional<std::string> AskForWorkbook() {
     const auto file = Dialogs().File({.kind = FileDialog::Kind::Open,
@@ -56,7 +43,7 @@ Answer AskToOverwrite(const std::string& preview) {
 
 /// False when it was stopped on the way.
 bool Convert(Database& database, WorkbookImport& import, bool overwrite) {
-    const WindowWhileConverting window;
+    const WindowWhileWorking window("Converting...");
     if (overwrite) database.DeleteAllRows("Materials");
     if (!import.Convert(database, ShowStep)) return false;
     database.Close();
@@ -64,7 +51,7 @@ bool Convert(Database& database, WorkbookImport& import, bool overwrite) {
 }
 
 bool Count(WorkbookImport& import) {
-    const WindowWhileConverting window;
+    const WindowWhileWorking window("Converting...");
     return import.Count(ShowStep);
 }
 
@@ -88,11 +75,6 @@ void RunImport() {
 }
 
 }  // namespace
-
-ConversionWindow& StatusOfConversion() {
-    static ConversionWindow window;
-    return window;
-}
 
 void ImportMaterialsFromExcel() {
     try {

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
@@ -9,6 +10,8 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
+#include <QPushButton>
 
 #include "platform/qt/icons.h"
 #include "platform/qt/theme.h"
@@ -155,11 +158,22 @@ class QtDialogs : public DialogService {
                           chosen.italic()};
     }
 
-    bool Print(const std::string& title) override {
+    bool HasPrinter() override { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
+
+    bool Print(const PrintDialog& dialog, QPrinter& printer) override {
         const PlainPointer pointer;
-        QPrinter printer;
         QPrintDialog box(&printer, QApplication::activeWindow());
-        box.setWindowTitle(Q(title));
+        box.setWindowTitle(Q(dialog.title));
+        const bool isJob = dialog.pages > 0;
+        box.setOption(QAbstractPrintDialog::PrintPageRange, isJob);
+        box.setOption(QAbstractPrintDialog::PrintCurrentPage, isJob && dialog.hasShownPage);
+        box.setOption(QAbstractPrintDialog::PrintToFile, isJob);
+        if (isJob) {
+            box.setMinMax(1, dialog.pages);
+            box.setFromTo(1, dialog.pages);
+        } else if (auto* buttons = box.findChild<QDialogButtonBox*>()) {
+            buttons->button(QDialogButtonBox::Ok)->setText("OK");
+        }
         return box.exec() == QDialog::Accepted;
     }
 };

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+class QPrinter;
+
 namespace tendo {
 
 /// All dialogs go through this seam: one implementation shows them, the driver's answers them from
@@ -53,6 +55,13 @@ struct FontChoice {
     bool italic = false;
 };
 
+struct PrintDialog {
+    std::string title;
+    /// Of the document; 0: there is no job yet, the dialog only chooses and sets up the printer.
+    int pages = 0;
+    bool hasShownPage = false;  // "current page" can be chosen
+};
+
 class DialogService {
   public:
     virtual ~DialogService() = default;
@@ -63,8 +72,10 @@ class DialogService {
     virtual std::optional<std::string> File(const FileDialog& dialog) = 0;
     virtual std::optional<std::uint32_t> Color(const ColorDialog& dialog) = 0;
     virtual std::optional<FontChoice> Font(const std::string& title, const FontChoice& font) = 0;
-    /// The printer dialog; true when the user agreed.
-    virtual bool Print(const std::string& title) = 0;
+    /// Whether this computer has a printer.
+    virtual bool HasPrinter() = 0;
+    /// The printer dialog, which leaves its choices in the printer; true when the user agreed.
+    virtual bool Print(const PrintDialog& dialog, QPrinter& printer) = 0;
 };
 
 /// The service that shows real dialogs.

@@ -1,5 +1,7 @@
 #include "programs/driver/scripted_dialogs.h"
 
+#include <QPageRanges>
+#include <QPrinter>
 #include <algorithm>
 
 #include "platform/text/text.h"
@@ -35,6 +37,41 @@ const char* IconText(MessageIcon icon) {
         default:
             return "none";
     }
+}
+
+const struct {
+    const char* name;
+    void (*put)(QPrinter& printer, const QString& value);
+} printerSettings[] = {
+    {"file", [](QPrinter& printer, const QString& value) { printer.setOutputFileName(value); }},
+    {"pages",
+     [](QPrinter& printer, const QString& value) {
+         printer.setPrintRange(value == "current" ? QPrinter::CurrentPage : QPrinter::PageRange);
+         printer.setPageRanges(QPageRanges::fromString(value));
+     }},
+    {"copies",
+     [](QPrinter& printer, const QString& value) { printer.setCopyCount(value.toInt()); }},
+    {"collate",
+     [](QPrinter& printer, const QString& value) { printer.setCollateCopies(value == "true"); }},
+    {"order",
+     [](QPrinter& printer, const QString& value) {
+         printer.setPageOrder(value == "reverse" ? QPrinter::LastPageFirst
+                                                 : QPrinter::FirstPageFirst);
+     }},
+    {"paper",
+     [](QPrinter& printer, const QString& value) {
+         printer.setPageSize(QPageSize(value == "A4" ? QPageSize::A4 : QPageSize::Letter));
+     }},
+};
+
+/// False for a setting that no printer has.
+bool SetUpPrinter(QPrinter& printer, const std::string& name, const QString& value) {
+    for (const auto& setting : printerSettings) {
+        if (name != setting.name) continue;
+        setting.put(printer, value);
+        return true;
+    }
+    return false;
 }
 
 }  // namespace
@@ -118,9 +155,27 @@ std::optional<FontChoice> ScriptedDialogs::Font(const std::string& title, const 
     return chosen;
 }
 
-bool ScriptedDialogs::Print(const std::string& title) {
-    const auto answer = Take({{"kind", "print"}, {"title", title}, {"text", ""}}, {Kind::Button});
-    return answer && *answer == "ok";
+bool ScriptedDialogs::HasPrinter() {
+    if (answers.empty() || answers.front().kind != Kind::NoPrinter) return true;
+    answers.pop_front();
+    return false;
+}
+
+bool ScriptedDialogs::Print(const PrintDialog& dialog, QPrinter& printer) {
+    const auto settings =
+        answers.empty() ? std::map<std::string, std::string>{} : answers.front().settings;
+    const auto answer = Take({{"kind", "print"},
+                              {"title", dialog.title},
+                              {"text", printer.docName().toStdString()},
+                              {"pages", dialog.pages}},
+                             {Kind::Button, Kind::Print});
+    if (!answer || (*answer != "ok" && *answer != "print")) return false;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(QString::fromStdString(printFile));
+    for (const auto& [name, value] : settings)
+        if (!SetUpPrinter(printer, name, QString::fromStdString(value)))
+            faults.push_back("a printer has no setting \"" + name + "\"");
+    return true;
 }
 
 }  // namespace tendo::driver

@@ -22,6 +22,7 @@ Session::Session(Options options) : options_(std::move(options)) {
     options_.home = std::filesystem::absolute(options_.home).string();
     auto dialogs = std::make_unique<ScriptedDialogs>();
     dialogs_ = dialogs.get();
+    dialogs_->printFile = FileInHome("printed.pdf");
     SetDialogs(std::move(dialogs));
     Form::SetModalObserver([this](Form& form) { AnswerModalForm(form); });
     RecordShellCalls();

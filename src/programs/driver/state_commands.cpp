@@ -71,9 +71,23 @@ Json StateCommand(Session&, const Words& words) {
     return nullptr;
 }
 
+/// "pages=2-3", "copies=2", "file=OUT.pdf"; a file stands in the program directory.
+std::map<std::string, std::string> PrinterSettings(const Session& session, const Words& words) {
+    std::map<std::string, std::string> settings;
+    for (std::size_t i = 2; i < words.size(); ++i) {
+        const std::size_t equals = words[i].find('=');
+        MustHave(words, equals == std::string::npos ? words.size() + 1 : 0,
+                 "answer print SETTING=VALUE ...");
+        const std::string name = words[i].substr(0, equals), value = words[i].substr(equals + 1);
+        settings[name] = name == "file" ? session.FileInHome(value) : value;
+    }
+    return settings;
+}
+
 Json AnswerCommand(Session& session, const Words& words) {
     MustHave(words, 2,
-             "answer BUTTON | text T | file PATH | color #rrggbb | cancel | form FORM COMMANDS");
+             "answer BUTTON | text T | file PATH | color #rrggbb | print SETTING=VALUE ... | "
+             "no-printer | cancel | form FORM COMMANDS");
     using Kind = QueuedAnswer::Kind;
     auto& answers = session.Dialogs_().answers;
     if (words[1] == "form") {
@@ -83,15 +97,19 @@ Json AnswerCommand(Session& session, const Words& words) {
     }
     const std::string value = words.size() > 2 ? words[2] : "";
     if (words[1] == "text")
-        answers.push_back({Kind::Text, value});
+        answers.push_back({Kind::Text, value, {}});
     else if (words[1] == "file")
-        answers.push_back({Kind::File, session.FileInHome(value)});
+        answers.push_back({Kind::File, session.FileInHome(value), {}});
     else if (words[1] == "color")
-        answers.push_back({Kind::Color, value});
+        answers.push_back({Kind::Color, value, {}});
+    else if (words[1] == "print")
+        answers.push_back({Kind::Print, "print", PrinterSettings(session, words)});
+    else if (words[1] == "no-printer")
+        answers.push_back({Kind::NoPrinter, "no-printer", {}});
     else if (EqualsNoCase(words[1], "cancel"))
-        answers.push_back({Kind::Cancel, "cancel"});
+        answers.push_back({Kind::Cancel, "cancel", {}});
     else
-        answers.push_back({Kind::Button, LowerCase(words[1])});
+        answers.push_back({Kind::Button, LowerCase(words[1]), {}});
     return nullptr;
 }
 

@@ -31,7 +31,7 @@ FrmPreview::FrmPreview() : Form("frmPreview", "Print Preview...", Place::Child, 
     pane_->AddTool("ToolSavePdf", "export", "Save as PDF...",
                    [this] { ExportDocument(pane_->ShownDocument()); });
     pane_->AddTool("ToolPrintPage", "print", "Print...",
-                   [this] { PrintDocument(pane_->ShownDocument()); });
+                   [this] { PrintDocument(pane_->ShownDocument(), pane_->ShownPage()); });
     pane_->AddTool("ToolClose", "close", "Close", [this] { Unload(); });
     column->addWidget(pane_);
     setMinimumSize(520, 420);

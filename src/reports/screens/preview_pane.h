@@ -47,6 +47,8 @@ class PreviewPane : public QWidget {
     bool HandleKey(const QKeyEvent& event);
     void ZoomTo(int percent);
     const Document& ShownDocument() const { return document_; }
+    /// From 0.
+    int ShownPage() const { return page_; }
 
   private:
     /// Beside the options it stands in narrow room: its tools take two lines.

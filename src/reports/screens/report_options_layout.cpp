@@ -125,7 +125,7 @@ PreviewPane* frmReportOptions::MakePreview() {
     auto* pane = new PreviewPane(allReports, this);
     pane->BeforeRun = [this] { Save(); };
     pane->AddTool("ToolPrintReports", "print", "Print...",
-                  [pane] { PrintDocument(pane->ShownDocument()); });
+                  [pane] { PrintDocument(pane->ShownDocument(), pane->ShownPage()); });
     pane->AddTool("ToolPreviewReports", "preview", "Preview in a window of its own", [this] {
         Save();
         ShowPreview();

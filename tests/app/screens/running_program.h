@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMdiSubWindow>
 #include <deque>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -36,10 +37,17 @@ class AnsweredDialogs : public DialogService {
     std::optional<FontChoice> Font(const std::string&, const FontChoice&) override {
         return std::nullopt;
     }
-    bool Print(const std::string&) override { return false; }
+    bool HasPrinter() override { return hasPrinter; }
+    bool Print(const PrintDialog& dialog, QPrinter& printer) override {
+        printDialogs.push_back(dialog);
+        return print && print(printer);
+    }
 
     std::deque<Answer> answers;
     std::deque<std::string> files;
+    bool hasPrinter = true;
+    std::function<bool(QPrinter&)> print;  // without one, the printer dialog is cancelled
+    std::vector<PrintDialog> printDialogs;
     std::vector<MessageDialog> messages;
     std::vector<FileDialog> fileDialogs;
 };
