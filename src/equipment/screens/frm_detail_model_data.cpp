@@ -29,16 +29,31 @@ QGridLayout* MakeCardGrid(QFrame* card, const char* heading, const char* side) {
     return grid;
 }
 
+QWidget* MakeModelCard(ModelFieldLines& lines, const char* heading, const char* side,
+                       std::span<const ModelField> fields, QWidget* parent) {
+    auto* card = new QFrame(parent);
+    QGridLayout* grid = MakeCardGrid(card, heading, side);
+    lines.AddColumn(fields, heading, grid, card);
+    grid->setRowStretch(grid->rowCount(), 1);
+    return card;
+}
+
+QHBoxLayout* MakeModelCards(ModelFieldLines& lines, std::span<const ModelField> cooling,
+                            std::span<const ModelField> heating, QWidget* parent) {
+    auto* cards = new QHBoxLayout;
+    cards->setSpacing(12);
+    cards->addWidget(MakeModelCard(lines, "Cooling", "cooling", cooling, parent), 1);
+    cards->addWidget(MakeModelCard(lines, "Heating", "heating", heating, parent), 1);
+    return cards;
+}
+
 }  // namespace
 
 frmDetailModelData::frmDetailModelData()
     : SystemForm("frmDetailModelData", "", Place::Child, "frmDetailModelData") {
     QVBoxLayout* column = MakeColumn();
-    auto* cards = new QHBoxLayout;
-    cards->setSpacing(12);
-    cards->addWidget(MakeModelCard("Cooling", "cooling", CoolingDetailFields()), 1);
-    cards->addWidget(MakeModelCard("Heating", "heating", HeatingDetailFields()), 1);
-    column->addLayout(cards);
+    column->addLayout(
+        MakeModelCards(fields_, CoolingDetailFields(), HeatingDetailFields(), Content()));
     column->addWidget(MakeHeading("Prices", Content()));
     prices_ = new ModelPriceGrid(Content());
     column->addWidget(prices_);
@@ -51,15 +66,6 @@ frmDetailModelData::frmDetailModelData()
     connect(&fields_, &ModelFieldLines::Taken, this,
             [this] { prices_->Show(State().SystemNumber); });
     Refill();
-}
-
-QWidget* frmDetailModelData::MakeModelCard(const char* heading, const char* side,
-                                           std::span<const ModelField> fields) {
-    auto* card = new QFrame(Content());
-    QGridLayout* grid = MakeCardGrid(card, heading, side);
-    fields_.AddColumn(fields, heading, grid, card);
-    grid->setRowStretch(grid->rowCount(), 1);
-    return card;
 }
 
 QWidget* frmDetailModelData::MakeButtons() {
@@ -95,23 +101,10 @@ frmMisModelData::frmMisModelData()
     QVBoxLayout* column = MakeColumn();
     system_ = MakeHeading("", Content());
     column->addWidget(system_);
-    auto* cards = new QHBoxLayout;
-    cards->setSpacing(12);
-    cards->addWidget(MakeModelCard("Cooling", "cooling", CoolingMiscFields()), 1);
-    cards->addWidget(MakeModelCard("Heating", "heating", HeatingMiscFields()), 1);
-    column->addLayout(cards);
+    column->addLayout(MakeModelCards(fields_, CoolingMiscFields(), HeatingMiscFields(), Content()));
     column->addStretch();
     fields_.Chain();
     SetMiscModelData();
-}
-
-QWidget* frmMisModelData::MakeModelCard(const char* heading, const char* side,
-                                        std::span<const ModelField> fields) {
-    auto* card = new QFrame(Content());
-    QGridLayout* grid = MakeCardGrid(card, heading, side);
-    fields_.AddColumn(fields, heading, grid, card);
-    grid->setRowStretch(grid->rowCount(), 1);
-    return card;
 }
 
 void frmMisModelData::SetMiscModelData() {

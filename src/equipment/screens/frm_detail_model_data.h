@@ -22,8 +22,6 @@ class frmDetailModelData : public SystemForm {
     void FormUnload() override;
 
   private:
-    QWidget* MakeModelCard(const char* heading, const char* side,
-                           std::span<const ModelField> fields);
     QWidget* MakeButtons();
 
     ModelFieldLines fields_{this};
@@ -47,8 +45,6 @@ class frmMisModelData : public SystemForm {
     void SetMiscModelData();
     /// Screen to records: what is being typed; all else went there when its field was left.
     void GetMiscModelData();
-    QWidget* MakeModelCard(const char* heading, const char* side,
-                           std::span<const ModelField> fields);
 
     ModelFieldLines fields_{this};
     QLabel* system_ = nullptr;

@@ -146,12 +146,7 @@ void frmModelSelection::grid_RowChange(int tab, int row) {
 }
 
 void frmModelSelection::btnChangeDB_Click() {
-    const auto file = Dialogs().File({.kind = FileDialog::Kind::Open,
-                                      .title = "Choose a Model Database",
-                                      .filter = "TENDO Database (*.mdb)|*.mdb",
-                                      .fileName = "*.mdb",
-                                      .folder = State().CommonDirectory,
-                                      .defaultExtension = "mdb"});
+    const auto file = AskForDatabase("Choose a Model Database", State().CommonDirectory);
     if (file) ChangeDatabase(*file);
 }
 

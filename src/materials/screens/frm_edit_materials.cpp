@@ -262,12 +262,7 @@ void frmEditMaterials::txtDatabase_Change(const std::string& path) {
 }
 
 void frmEditMaterials::btnChangeDB_Click() {
-    const auto file = Dialogs().File({.kind = FileDialog::Kind::Open,
-                                      .title = "Change Material Database",
-                                      .filter = "TENDO Database (*.mdb)|*.mdb",
-                                      .fileName = "*.mdb",
-                                      .folder = DirectoryOf(book_.DatabaseName()),
-                                      .defaultExtension = "mdb"});
+    const auto file = AskForDatabase("Change Material Database", DirectoryOf(book_.DatabaseName()));
     if (file && FileExists(*file)) txtDatabase_Change(*file);
 }
 

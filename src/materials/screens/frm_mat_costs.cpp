@@ -190,12 +190,8 @@ void frmMatCosts::btnChangeDB_Click() {
             "selections.  Are you sure you want to do this?",
             Buttons::YesNo);
     if (answer != Answer::Yes) return;
-    const auto file = Dialogs().File({.kind = FileDialog::Kind::Open,
-                                      .title = "Select a Material Database",
-                                      .filter = "TENDO Database (*.mdb)|*.mdb",
-                                      .fileName = "*.mdb",
-                                      .folder = DirectoryOf(State().MaterialDatabaseName),
-                                      .defaultExtension = "mdb"});
+    const auto file =
+        AskForDatabase("Select a Material Database", DirectoryOf(State().MaterialDatabaseName));
     if (file && FileExists(*file)) txtDatabase_->setText(Q(*file));
 }
 

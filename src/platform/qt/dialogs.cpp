@@ -205,4 +205,13 @@ Answer Ask(const std::string& title, const std::string& text, Buttons buttons, M
     return Dialogs().Message({title, text, buttons, icon});
 }
 
+std::optional<std::string> AskForDatabase(const std::string& title, const std::string& folder) {
+    return Dialogs().File({.kind = FileDialog::Kind::Open,
+                           .title = title,
+                           .filter = "TENDO Database (*.mdb)|*.mdb",
+                           .fileName = "*.mdb",
+                           .folder = folder,
+                           .defaultExtension = "mdb"});
+}
+
 }  // namespace tendo

@@ -88,6 +88,8 @@ void SetDialogs(std::unique_ptr<DialogService> service);
 /// Short forms.
 void ShowMessage(const std::string& title, const std::string& text,
                  MessageIcon icon = MessageIcon::None);
+/// A database to open; nothing on cancel.
+std::optional<std::string> AskForDatabase(const std::string& title, const std::string& folder);
 Answer Ask(const std::string& title, const std::string& text, Buttons buttons,
            MessageIcon icon = MessageIcon::Question);
 

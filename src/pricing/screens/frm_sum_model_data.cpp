@@ -145,12 +145,7 @@ void frmSumModelData::SelectModel(ModelSide side) {
 
 void frmSumModelData::ChooseDatabase(TableField field) {
     CommitFocusedField();
-    const auto file = Dialogs().File({.kind = FileDialog::Kind::Open,
-                                      .title = "Choose a Model Database",
-                                      .filter = "TENDO Database (*.mdb)|*.mdb",
-                                      .fileName = "*.mdb",
-                                      .folder = State().CommonDirectory,
-                                      .defaultExtension = "mdb"});
+    const auto file = AskForDatabase("Choose a Model Database", State().CommonDirectory);
     if (file) fields_.Enter(field, Q(*file));
 }
 
