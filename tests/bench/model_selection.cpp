@@ -9,6 +9,7 @@
 
 #include "../equipment/model_databases.h"
 #include "benchmarks.h"
+#include "bind_value.h"
 #include "equipment/screens/frm_model_selection.h"
 #include "measure.h"
 #include "platform/database/database.h"
@@ -80,7 +81,7 @@ class BareQuery {
         sqlite3_stmt* insert = Prepared("INSERT INTO \"AC File\" VALUES (" + marks + ")");
         for (; !rows.EOF_(); rows.MoveNext()) {
             for (int i = 0; i < width; ++i)
-                Bind(insert, i + 1, rows.Get(i));
+                Bind(insert, i + 1, rows.Get(i), SQLITE_TRANSIENT);
             Must(sqlite3_step(insert), SQLITE_DONE);
             Must(sqlite3_reset(insert));
         }
@@ -110,19 +111,6 @@ class BareQuery {
         sqlite3_stmt* statement = nullptr;
         Must(sqlite3_prepare_v2(database_, sql.c_str(), -1, &statement, nullptr));
         return statement;
-    }
-    static void Bind(sqlite3_stmt* insert, int at, const jet::Value& value) {
-        if (const auto* text = std::get_if<std::string>(&value))
-            sqlite3_bind_text(insert, at, text->data(), static_cast<int>(text->size()),
-                              SQLITE_TRANSIENT);
-        else if (const auto* number = std::get_if<double>(&value))
-            sqlite3_bind_double(insert, at, *number);
-        else if (const auto* whole = std::get_if<std::int64_t>(&value))
-            sqlite3_bind_int64(insert, at, *whole);
-        else if (const auto* flag = std::get_if<bool>(&value))
-            sqlite3_bind_int(insert, at, *flag);
-        else
-            sqlite3_bind_null(insert, at);
     }
 
     sqlite3* database_ = nullptr;

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "benchmarks.h"
+#include "bind_value.h"
 #include "measure.h"
 #include "platform/database/database.h"
 #include "platform/files/paths.h"
@@ -67,19 +68,6 @@ std::vector<PlainTable> RowsOf(const std::string& file) {
     return tables;
 }
 
-void Bind(sqlite3_stmt* insert, int at, const jet::Value& value) {
-    if (const auto* text = std::get_if<std::string>(&value))
-        sqlite3_bind_text(insert, at, text->data(), static_cast<int>(text->size()), SQLITE_STATIC);
-    else if (const auto* number = std::get_if<double>(&value))
-        sqlite3_bind_double(insert, at, *number);
-    else if (const auto* whole = std::get_if<std::int64_t>(&value))
-        sqlite3_bind_int64(insert, at, *whole);
-    else if (const auto* flag = std::get_if<bool>(&value))
-        sqlite3_bind_int(insert, at, *flag);
-    else
-        sqlite3_bind_null(insert, at);
-}
-
 void WriteTable(sqlite3* database, const PlainTable& table) {
     std::string columns, marks;
     for (std::size_t i = 0; i < table.width; ++i) {
@@ -94,7 +82,7 @@ void WriteTable(sqlite3* database, const PlainTable& table) {
                             -1, &insert, nullptr));
     for (const jet::Row& row : table.rows) {
         for (std::size_t i = 0; i < row.size(); ++i)
-            Bind(insert, static_cast<int>(i) + 1, row[i]);
+            Bind(insert, static_cast<int>(i) + 1, row[i], SQLITE_STATIC);
         Must(sqlite3_step(insert), SQLITE_DONE);
         Must(sqlite3_reset(insert));
     }

@@ -123,36 +123,17 @@ TEST(MaterialCatalogue, CostsOfOtherTypesAreTaken) {
 
 TEST(MaterialCatalogue, ACostThatIsATextFailsAtTheFifthLocation) {
     BookFolder book;
-    Database::CreateDatabase(book.Path("tendo.mdb"));
-    Database database = Database::OpenDatabase(book.Path("tendo.mdb"));
-    jet::TableDefinition materials;
-    materials.name = "Materials";
-    for (const char* name : {"Description", "Category", "Part Number", "UnitCst", "ListCst"}) {
-        jet::Column column;
-        column.name = name;
-        column.size = 50;
-        materials.columns.push_back(column);
-    }
-    database.AppendTable(materials);
     const std::string text = "12";
-    database.AppendRows("Materials", {{text, text, text, text, text}});
-    database.Close();
+    WriteTextMaterials(book.Path("tendo.mdb"),
+                       {"Description", "Category", "Part Number", "UnitCst", "ListCst"},
+                       {{text, text, text, text, text}});
     EXPECT_FALSE(LoadMaterialCatalogue());
     EXPECT_EQ(book.messages, (Texts{CatalogueFailureText(13, 5)}));
 }
 
 TEST(MaterialCatalogue, ATableThatCannotBeOrderedFailsAtTheSecondLocation) {
     BookFolder book;
-    Database::CreateDatabase(book.Path("tendo.mdb"));
-    Database database = Database::OpenDatabase(book.Path("tendo.mdb"));
-    jet::TableDefinition materials;
-    materials.name = "Materials";
-    jet::Column column;
-    column.name = "Description";
-    column.size = 50;
-    materials.columns.push_back(column);
-    database.AppendTable(materials);
-    database.Close();
+    WriteTextMaterials(book.Path("tendo.mdb"), {"Description"});
     EXPECT_FALSE(LoadMaterialCatalogue());
     EXPECT_EQ(book.messages, (Texts{CatalogueFailureText(3061, 2)}));
 }
@@ -264,19 +245,8 @@ TEST(MaterialCatalogue, ADatabaseWithoutTheTableFailsAtTheSecondLocation) {
 
 TEST(MaterialCatalogue, ADatabaseWithoutACostColumnFailsAtTheFifthLocation) {
     BookFolder book;
-    Database::CreateDatabase(book.Path("tendo.mdb"));
-    Database database = Database::OpenDatabase(book.Path("tendo.mdb"));
-    jet::TableDefinition materials;
-    materials.name = "Materials";
-    for (const char* name : {"Description", "Category", "Part Number"}) {
-        jet::Column column;
-        column.name = name;
-        column.size = 50;
-        materials.columns.push_back(column);
-    }
-    database.AppendTable(materials);
-    database.AppendRows("Materials", {{std::string("One"), std::string("A"), std::string("1")}});
-    database.Close();
+    WriteTextMaterials(book.Path("tendo.mdb"), {"Description", "Category", "Part Number"},
+                       {{std::string("One"), std::string("A"), std::string("1")}});
     EXPECT_FALSE(LoadMaterialCatalogue());
     EXPECT_EQ(book.messages, (Texts{CatalogueFailureText(3265, 5)}));
     // What was read before the failure stands.

@@ -50,6 +50,19 @@ void WriteMaterialDatabase(const std::string& path, const std::vector<BookRow>& 
     database.Close();
 }
 
+void WriteTextMaterials(const std::string& path, const std::vector<std::string>& columns,
+                        const std::vector<jet::Row>& rows) {
+    Database::CreateDatabase(path);
+    Database database = Database::OpenDatabase(path);
+    jet::TableDefinition materials;
+    materials.name = "Materials";
+    for (const std::string& name : columns)
+        materials.columns.push_back(Column(name, jet::ColumnType::Text));
+    database.AppendTable(materials);
+    database.AppendRows("Materials", rows);
+    database.Close();
+}
+
 BookFolder::BookFolder() {
     static int count = 0;
     folder_ = (std::filesystem::temp_directory_path() /

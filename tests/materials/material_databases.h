@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/jet/jet_types.h"
+
 namespace tendo {
 
 /// One material as its table holds it; what is missing is null.
@@ -14,6 +16,10 @@ struct BookRow {
 
 /// Writes a material database with the tables Materials and Categories.
 void WriteMaterialDatabase(const std::string& path, const std::vector<BookRow>& rows);
+
+/// Writes a database whose only table, Materials, has these columns of texts.
+void WriteTextMaterials(const std::string& path, const std::vector<std::string>& columns,
+                        const std::vector<jet::Row>& rows = {});
 
 /// A folder of its own for one test, with a settings store; it serves as the program directory.
 /// State, hooks and catalogue are put back afterwards.

@@ -10,12 +10,11 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "fields_window.h"
 #include "platform/qt/apply_theme.h"
 #include "platform/text/runtime_error.h"
-#include "running_program.h"
 
 namespace tendo {
 namespace {
@@ -49,38 +48,21 @@ void Turn(QWidget* control) {
 }
 
 /// A window of fields: an array of three, a combo box, a memo.
-class EnhancedInputTest : public RunningProgram {
+class EnhancedInputTest : public FieldsWindow {
   protected:
     void SetUp() override {
-        RunningProgram::SetUp();
-        window = std::make_unique<QWidget>();
-        rows = new QVBoxLayout(window.get());
+        FieldsWindow::SetUp();
         for (const char* name : {"txtItemQty(0)", "txtItemQty(1)", "txtItemQty(2)"})
             array.push_back(Add(new QLineEdit, name));
         above = Add(new QLineEdit, "txtAbove");
         below = Add(new QLineEdit, "txtBelow");
-        window->show();
-        window->activateWindow();
-        QApplication::processEvents();
-    }
-    void TearDown() override {
-        window.reset();
-        RunningProgram::TearDown();
-    }
-
-    template <class Control>
-    Control* Add(Control* control, const char* name) {
-        control->setObjectName(name);
-        rows->addWidget(control);
-        return control;
+        ShowWindow();
     }
     void Enter(QWidget* control) {
         control->setFocus();
         QApplication::processEvents();
     }
 
-    std::unique_ptr<QWidget> window;
-    QVBoxLayout* rows = nullptr;
     std::vector<QLineEdit*> array;
     QLineEdit* above = nullptr;
     QLineEdit* below = nullptr;

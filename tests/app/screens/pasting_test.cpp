@@ -5,12 +5,11 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
-#include <QVBoxLayout>
 
+#include "fields_window.h"
 #include "platform/qt/apply_theme.h"
 #include "platform/qt/enhanced_input.h"
 #include "platform/qt/fields.h"
-#include "running_program.h"
 
 namespace tendo {
 namespace {
@@ -36,28 +35,14 @@ std::shared_ptr<InputValidator> Number(double least, double most, int places) {
 }
 
 /// Fields in a window of the main window's kind; texts come by the clipboard.
-class Pasting : public RunningProgram {
+class Pasting : public FieldsWindow {
   protected:
     void SetUp() override {
-        RunningProgram::SetUp();
+        FieldsWindow::SetUp();
         ApplyTheme(*qApp, false);
-        window = std::make_unique<QWidget>();
-        new QVBoxLayout(window.get());
         line = Add(new QLineEdit);
         other = Add(new QLineEdit);
-        window->show();
-        window->activateWindow();
-        QApplication::processEvents();
-    }
-    void TearDown() override {
-        window.reset();
-        RunningProgram::TearDown();
-    }
-
-    template <class Control>
-    Control* Add(Control* control) {
-        window->layout()->addWidget(control);
-        return control;
+        ShowWindow();
     }
     void Paste(QWidget* field, const QString& text) {
         field->setFocus();
@@ -66,7 +51,6 @@ class Pasting : public RunningProgram {
         Press(field, Qt::Key_V, Qt::ControlModifier);
     }
 
-    std::unique_ptr<QWidget> window;
     QLineEdit* line = nullptr;
     QLineEdit* other = nullptr;
 };
