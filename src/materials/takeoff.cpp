@@ -36,7 +36,7 @@ Takeoff::Takeoff(std::vector<MaterialRow>& catalogue, std::string caption, bool 
 
 void Takeoff::Reset() {
     view_ = TakeoffView::All;
-    selected_.clear();
+    selectedView_.clear();
     places_.clear();
     top_ = current_ = 0;
     FillPage();
@@ -64,23 +64,23 @@ void Takeoff::Show(TakeoffView view) {
 }
 
 void Takeoff::BuildSelected() {
-    selected_.clear();
+    selectedView_.clear();
     places_.clear();
     if (view_ == TakeoffView::All) return;
-    for (std::size_t i = 0; i < catalogue_.size() && selected_.size() < SelectedRows; ++i) {
+    for (std::size_t i = 0; i < catalogue_.size() && selectedView_.size() < SelectedRows; ++i) {
         if (!PlanOf(view_).takes(catalogue_[i])) continue;
-        selected_.push_back(catalogue_[i]);
+        selectedView_.push_back(catalogue_[i]);
         places_.push_back(static_cast<std::int32_t>(i));
     }
 }
 
 int Takeoff::Count() const {
-    return static_cast<int>(view_ == TakeoffView::All ? catalogue_.size() : selected_.size());
+    return static_cast<int>(view_ == TakeoffView::All ? catalogue_.size() : selectedView_.size());
 }
 
 const MaterialRow& Takeoff::Row(int position) const {
     const auto at = static_cast<std::size_t>(position);
-    return view_ == TakeoffView::All ? catalogue_.at(at) : selected_.at(at);
+    return view_ == TakeoffView::All ? catalogue_.at(at) : selectedView_.at(at);
 }
 
 /// The row of the catalogue; two materials of one description stay two.
@@ -107,7 +107,7 @@ void Takeoff::StoreLine(int row) {
         return;
     MaterialRow& behind = RowBehind(top_ + row);
     Line(row).Store(behind);
-    if (view_ != TakeoffView::All) selected_.at(at) = behind;
+    if (view_ != TakeoffView::All) selectedView_.at(at) = behind;
 }
 
 void Takeoff::Store() {

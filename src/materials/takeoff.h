@@ -80,9 +80,6 @@ class Takeoff {
     /// Takes quantity, tax and accessory mark from every row of the catalogue. Prices stay.
     void ClearSelections();
 
-    /// The rows of the selected view, at most 100; empty in the whole list.
-    const std::vector<MaterialRow>& SelectedView() const { return selected_; }
-
   private:
     MaterialRow& RowBehind(int position);
     void BuildSelected();
@@ -97,8 +94,8 @@ class Takeoff {
     std::string caption_;
     bool keepsTitle_;
     TakeoffView view_ = TakeoffView::All;
-    std::vector<MaterialRow> selected_;
-    std::vector<std::int32_t> places_;  // of the selected rows in the catalogue
+    std::vector<MaterialRow> selectedView_;  // at most 100 rows; empty in the whole list
+    std::vector<std::int32_t> places_;       // of the selected rows in the catalogue
     std::array<TakeoffLine, PageRows> lines_;
     int top_ = 0, current_ = 0;
     bool building_ = false;

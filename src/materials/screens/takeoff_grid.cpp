@@ -159,8 +159,6 @@ TextField* TakeoffGrid::AddField(int row, int number) {
     }
     connect(field, &TextField::textChanged, this,
             [this, row, which](const QString& text) { TextTyped(row, which, text); });
-    connect(field, &TextField::textEdited, this,
-            [this, row, which](const QString& text) { TextTyped(row, which, text); });
     connect(field, &TextField::Committed, this, [this, row, which] { FieldLeft(row, which); });
     connect(field, &TextField::HelpWanted, this,
             [this, row, which] { WantHelp(row, HelpOf(which)); });
