@@ -61,6 +61,26 @@ TEST_F(ChangeCascades, AfterAMarginTheSubTotalComesLast) {
     EXPECT_EQ(Text(Field::SubTotalSalePrice), "$320.00");
 }
 
+TEST_F(ChangeCascades, AfterAMarginTheTotalMarginStillComparesWithTheTotalBeforeTheEdit) {
+    Enter(Field::LaborGrossMargin, "50");
+    // 160 / 0.5 = 320 and 8.25 % tax of it, 26.40. The moved profit sets the Total margin when the
+    // total still reads 216.50: 216.50 - 26.40 = 190.10; (190.10 - 320) / 190.10 = -68.33 %.
+    EXPECT_EQ(Text(Field::TotalGrossMargin), "-68.3");
+    EXPECT_EQ(Text(Field::TotalSalePrice), "$346.40");
+    EXPECT_TRUE(Before("txtTotalGrossMargin", "txtTotalSalePrice"));
+    // Nothing follows the new total but the flag, which its change sets.
+    EXPECT_EQ(changed.back(), "txtSuperProfit");
+    EXPECT_TRUE(table.FieldChanged);
+}
+
+TEST_F(ChangeCascades, AfterAMarginTheNextRecalculationOfTheTotalRowMendsItsMargin) {
+    Enter(Field::LaborGrossMargin, "50");
+    table.Commit(Field::TotalSalePrice);
+    // ((320 + 26.40) - 26.40) against a total of 346.40: (346.40 - 320) / 346.40 = 7.62 %.
+    EXPECT_EQ(Text(Field::TotalGrossMargin), "7.6");
+    EXPECT_FALSE(table.FieldChanged);
+}
+
 TEST_F(ChangeCascades, TheTaxMovesTheExtraProfitOnly) {
     table.SetText(Field::TaxSalePrice, "$10.00");
     // 216.50 - 200 - 10
