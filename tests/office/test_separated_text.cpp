@@ -62,6 +62,22 @@ TEST(SeparatedText, WhatIsWrittenReadsBackTheSame) {
     EXPECT_EQ(WriteCsv(cells), "\"a \"\"b\"\", c\",,-0.25\r\n\r\nTRUE,1998-05-04\r\n");
 }
 
+TEST(SeparatedText, OnlyATextBeyondAsciiIsWrittenWithTheMarkOfUtf8) {
+    CellGrid cells;
+    cells.PutText(0, 0, "Duct 6\"");
+    cells.Sort();
+    EXPECT_EQ(WriteCsv(cells), "\"Duct 6\"\"\"\r\n");
+    cells.PutText(1, 0, "Größe");
+    cells.PutText(1, 1, "5 €");
+    cells.Sort();
+    const std::string text = WriteCsv(cells);
+    EXPECT_EQ(text, "\xEF\xBB\xBF\"Duct 6\"\"\"\r\nGröße,5 €\r\n");
+    const Workbook book = ReadWorkbook(text, "p.csv");
+    EXPECT_EQ(book.Cell(0, 0).text, "Duct 6\"");  // the mark is no part of the first value
+    EXPECT_EQ(book.Cell(1, 0).text, "Größe");
+    EXPECT_EQ(ReadWorkbook(text.substr(3), "p.csv").Cell(1, 1).text, "5 €");
+}
+
 TEST(LocalNumber, NumbersOfSeveralCountriesAreRead) {
     const std::pair<const char*, double> cases[] = {
         {"1,234.50", 1234.5}, {"1.234,50", 1234.5}, {"1 234,50", 1234.5}, {"1'234.50", 1234.5},

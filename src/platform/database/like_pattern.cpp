@@ -18,11 +18,6 @@ struct AsciiText {
     char32_t operator[](std::size_t i) const { return FoldedAscii(bytes[i]); }
 };
 
-bool IsAscii(std::string_view text) {
-    return std::none_of(text.begin(), text.end(),
-                        [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
-}
-
 }  // namespace
 
 bool LikePattern::ReadSet(std::u32string_view set, Element& element) {

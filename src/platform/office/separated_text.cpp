@@ -4,8 +4,10 @@
 #include <cmath>
 #include <vector>
 
+#include "platform/text/code_page.h"
 #include "platform/text/date_text.h"
 #include "platform/text/number_text.h"
+#include "platform/text/text.h"
 
 namespace tendo {
 
@@ -155,7 +157,8 @@ std::string WriteCsv(const CellGrid& cells) {
         }
         result += "\r\n";
     }
-    return result;
+    // Spreadsheets take a text without the mark for one of their own code page.
+    return IsAscii(result) ? result : std::string(Utf8Mark) + result;
 }
 
 }  // namespace tendo

@@ -16,7 +16,8 @@ char SeparatorOf(std::string_view text);
 bool ReadSeparatedText(std::string_view text, CellGrid& cells);
 
 /// A sheet as lines of values between commas, with the line ends of Windows; dates as
-/// "1998-05-04", booleans as TRUE and FALSE. Empty cells at the end of a line are left out.
+/// "1998-05-04", booleans as TRUE and FALSE. Empty cells at the end of a line are left out. The
+/// text is UTF-8, with its mark in front only when there are characters beyond ASCII.
 std::string WriteCsv(const CellGrid& cells);
 
 }  // namespace tendo

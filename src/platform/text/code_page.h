@@ -5,6 +5,9 @@
 
 namespace tendo {
 
+/// The mark that tells at the beginning of a text file that it is UTF-8.
+constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+
 /// Windows-1252 to UTF-8. The five open bytes become the control characters of the same number.
 std::string FromWindows1252(std::string_view bytes);
 /// UTF-8 to Windows-1252; a character that has no place there becomes '?'.

@@ -132,11 +132,11 @@ std::string Mapped(std::string_view text, Ascii ascii, Letter letter) {
     return result;
 }
 
+}  // namespace
+
 bool IsAscii(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
 }
-
-}  // namespace
 
 std::string UpperCase(std::string_view text) {
     return Mapped(text, AsciiUpper, CapitalOf);

@@ -14,6 +14,9 @@ std::string_view Trimmed(std::string_view text);
 std::string_view TrimmedLeft(std::string_view text);
 std::string_view TrimmedRight(std::string_view text);
 
+/// True when no byte is 0x80 or above; such a text is the same in every code page.
+bool IsAscii(std::string_view text);
+
 /// Case by Unicode's simple mapping for Latin, Greek and Cyrillic letters.
 std::string UpperCase(std::string_view text);
 std::string LowerCase(std::string_view text);
