@@ -47,6 +47,7 @@ void BeginStartup(const StartPlaces& places) {
 void ReadConfiguration() {
     ProgramState& state = State();
     ReadSiblingDirectories();
+    RemoveLeftovers(state.CommonDirectory);
     state.ProgramVersionText = VersionText();
     state.MaterialDatabaseName = StoredMaterialDatabase();
     state.ProjectIsOpen = false;

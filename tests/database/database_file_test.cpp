@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "../files/ended_process.h"
 #include "../files/test_folder.h"
 #include "platform/database/database_hooks.h"
 #include "platform/files/paths.h"
@@ -234,6 +235,16 @@ TEST_F(DatabaseFileTest, AFailedWriteIsToldAndCanBeTriedAgain) {
     database.Close();
     Database again = Database::OpenDatabase(path);
     EXPECT_EQ(Column(again, "Categories", "Category"), "Pipe|\xC3\x89lan|Valve");
+}
+
+TEST_F(DatabaseFileTest, AWriteRemovesWhatAKilledOneLeftBesideTheFile) {
+    const std::string path = PriceFile();
+    Put(".tendo-" + EndedProcess() + "-1.new", "half");
+    Database database = Database::OpenDatabase(path);
+    database.AppendRows("Categories", {{"Duct"}});
+    EXPECT_EQ(EntryCount(), 2);
+    database.Close();
+    EXPECT_EQ(EntryCount(), 1);
 }
 
 TEST_F(DatabaseFileTest, ASaveWritesAndTheRowSetsGoOn) {

@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "ended_process.h"
 #include "platform/files/safe_file.h"
 #include "platform/files/system_calls.h"
 #include "test_folder.h"
@@ -18,13 +19,6 @@ class Leftovers : public TestFolder {
   protected:
     ~Leftovers() override { SystemCalls() = SystemCallTable(); }
 
-    /// The number of a process that has ended.
-    static std::string EndedProcess() {
-        const pid_t child = ::fork();
-        if (child == 0) ::_exit(0);
-        ::waitpid(child, nullptr, 0);
-        return std::to_string(child);
-    }
     void Remove() const { RemoveLeftovers(folder_ + "/"); }
 };
 

@@ -5,6 +5,7 @@
 #include "platform/database/database.h"
 #include "platform/database/database_hooks.h"
 #include "platform/database/engine.h"
+#include "platform/files/leftovers.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
 #include "platform/jet/jet_reader.h"
@@ -78,6 +79,7 @@ class JetFile : public DatabaseFile {
                                   engine.VisitRows(*table, add);
                               }});
         const std::string bytes = jet::WriteFile(tables, SerialOfDate(Now()));
+        RemoveLeftovers(DirectoryOf(path_));  // first: they may be what fills the disk
         if (generation_ == OldGeneration) KeepOriginal();
         ReplaceFile(path_, bytes);
         generation_ = WrittenGeneration;

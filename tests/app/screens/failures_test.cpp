@@ -1,11 +1,9 @@
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <QAbstractButton>
 #include <QRadioButton>
 #include <cerrno>
 #include <fstream>
 
+#include "../../files/ended_process.h"
 #include "platform/files/safe_file.h"
 #include "platform/files/system_calls.h"
 #include "project/project_lifecycle.h"
@@ -242,13 +240,10 @@ TEST_F(Failures, AWorkingCopyThatIsOpenedItselfIsRefusedAndStays) {
 }
 
 TEST_F(Failures, WhatAKilledSaveLeftIsRemovedByTheNextStartOpenAndSave) {
-    const pid_t child = ::fork();
-    if (child == 0) ::_exit(0);
-    ::waitpid(child, nullptr, 0);
-    const std::string leftover = ".tendo-" + std::to_string(child) + "-7.new";
+    const std::string leftover = ".tendo-" + EndedProcess() + "-7.new";
     fs::create_directories(home / "Away");
     const auto leave = [&] {
-        for (const char* folder : {"", "Projects/", "Away/"})
+        for (const char* folder : {"", "Common/", "Projects/", "Away/"})
             Write(folder + leftover, "half");
     };
     leave();
@@ -267,6 +262,7 @@ TEST_F(Failures, WhatAKilledSaveLeftIsRemovedByTheNextStartOpenAndSave) {
     leave();
     StartProgram();
     EXPECT_FALSE(Exists(leftover));
+    EXPECT_FALSE(Exists("Common/" + leftover));
     EXPECT_FALSE(Exists("Projects/" + leftover));
 }
 
