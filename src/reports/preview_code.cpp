@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -54,6 +55,33 @@ void DrawBandIcon(PrintSurface& surface) {
 
 std::string FormatIfModel(float value, std::string_view modelNumber, std::string_view picture) {
     return Trimmed(modelNumber).empty() ? std::string() : FormatNumber(value, picture);
+}
+
+using FootnoteRows = std::span<const FootNoteRow>;
+
+/// The rows that a list's count calls for; an empty list keeps a blank row.
+FootnoteRows FootnotesInUse(FootnoteRows rows, int count) {
+    return rows.first(std::min(rows.size(), static_cast<std::size_t>(std::max(count, 0))));
+}
+
+FootnoteRows AccessoryFootnotes(const ProjectRecords& project) {
+    return FootnotesInUse(project.ProjectAccRptFootNotes, project.NumOfAccRptFootnotes);
+}
+
+void PrintRow(ReportContext& context, const FootNoteRow& row) {
+    const std::vector<std::string> paragraphs =
+        FootnoteParagraphs(row.Description, context.project.SystemTendos.TotalSalePrice);
+    for (const std::string& paragraph : paragraphs) {
+        if (&paragraph != &paragraphs.front()) context.surface.NewPage();
+        context.surface.Paragraph(paragraph);
+    }
+}
+
+void PrintRows(ReportContext& context, FootnoteRows rows) {
+    if (rows.empty()) return;
+    context.surface.AutoRTF(true);
+    for (const FootNoteRow& row : rows)
+        PrintRow(context, row);
 }
 
 }  // namespace
@@ -169,18 +197,17 @@ void PrintSectionHeading(PrintSurface& surface, std::string_view heading) {
 
 void PrintFootnotes(ReportContext& context) {
     const ProjectRecords& project = context.project;
-    context.surface.AutoRTF(true);
-    const auto count =
-        std::min(project.ProjectFootNotes.size(),
-                 static_cast<std::size_t>(std::max<int>(project.gvNumOfFootnotes, 0)));
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::vector<std::string> paragraphs = FootnoteParagraphs(
-            project.ProjectFootNotes[i].Description, project.SystemTendos.TotalSalePrice);
-        for (const std::string& paragraph : paragraphs) {
-            if (&paragraph != &paragraphs.front()) context.surface.NewPage();
-            context.surface.Paragraph(paragraph);
-        }
-    }
+    PrintRows(context, FootnotesInUse(project.ProjectFootNotes, project.gvNumOfFootnotes));
+}
+
+void PrintFirstAccessoryFootnote(ReportContext& context) {
+    const FootnoteRows rows = AccessoryFootnotes(context.project);
+    PrintRows(context, rows.first(std::min<std::size_t>(rows.size(), 1)));
+}
+
+void PrintAccessoryFootnotes(ReportContext& context) {
+    const FootnoteRows rows = AccessoryFootnotes(context.project);
+    PrintRows(context, rows.subspan(std::min<std::size_t>(rows.size(), 1)));
 }
 
 }  // namespace tendo

@@ -72,6 +72,10 @@ void PrintSectionHeading(PrintSurface& surface, std::string_view heading);
 
 /// Writes the footnotes of the Sales Report, in order.
 void PrintFootnotes(ReportContext& context);
+/// Of the footnotes of the accessories report, the first stands above the table and the others,
+/// from the second on, stand beneath it. Nothing where there is none.
+void PrintFirstAccessoryFootnote(ReportContext& context);
+void PrintAccessoryFootnotes(ReportContext& context);
 
 /// Left and right edge of a bar, in hundredths.
 inline constexpr int BarLeft = 25, BarRight = 775;

@@ -1,9 +1,6 @@
 #include "footnotes/footnote_markup.h"
 
-#include <gmock/gmock.h>
-
-#include "report_fixture.h"
-#include "reports/generate_reports.h"
+#include <gtest/gtest.h>
 
 namespace tendo {
 namespace {
@@ -38,58 +35,26 @@ TEST(FootnoteMarkup, AFinalPriceBeforeAStopIsExpandedAndOneBehindItDropped) {
     EXPECT_EQ(FootnoteParagraphs("{<$$$$> a<STOP> <$$$$>}", 5), Paragraphs{"{$5.00 a}"});
 }
 
+TEST(FootnoteMarkup, MarkersAreCapitalsInPointedBrackets) {
+    EXPECT_EQ(FootnoteParagraphs("{<page>PAGE<stop>STOP< PAGE >$$$$}", 5),
+              Paragraphs{"{<page>PAGE<stop>STOP< PAGE >$$$$}"});
+}
+
+TEST(FootnoteMarkup, AMarkerMayStandBetweenFormattingCodes) {
+    EXPECT_EQ(FootnoteParagraphs("{\\rtf1{\\b<$$$$>\\b0<PAGE>}\\i<STOP>\\i0}", 5),
+              (Paragraphs{"{\\rtf1{\\b$5.00\\b0}", "{}\\i}"}));
+}
+
+TEST(FootnoteMarkup, TheFinalPriceIsWrittenWithThousandsAndCents) {
+    EXPECT_EQ(FootnoteParagraphs("<$$$$>", 1234567.5F), Paragraphs{"$1,234,567.50"});
+    EXPECT_EQ(FootnoteParagraphs("<$$$$>", 0), Paragraphs{"$0.00"});
+    EXPECT_EQ(FootnoteParagraphs("<$$$$>", -12.5F), Paragraphs{"-$12.50"});
+}
+
 TEST(FootnoteMarkup, APageMarkerBehindAStopBreaksThePageAndTheTextIsGone) {
     EXPECT_EQ(FootnoteParagraphs("{a<STOP>b<PAGE>c}", 0), (Paragraphs{"{a}", "{}"}));
     EXPECT_EQ(FootnoteParagraphs("{a<PAGE>b<STOP>c}", 0), (Paragraphs{"{a}", "{b}"}));
     EXPECT_EQ(FootnoteParagraphs("{a<STOP>b<PAGE>c<STOP>d}", 0), (Paragraphs{"{a}", "{}"}));
-}
-
-class Footnotes : public ReportTest {
-  protected:
-    Footnotes() { surface.Action(3); }
-    void Add(const char* description) {
-        project.ProjectFootNotes.push_back({"Terms", description});
-        ++project.gvNumOfFootnotes;
-    }
-};
-
-TEST_F(Footnotes, TwoWithTheSameNameBothPrintInTheirOrder) {
-    Add("one");
-    Add("two");
-    PrintFootnotes(context);
-    EXPECT_EQ(CallsText(), "Action 3\nAutoRTF true\nParagraph \"one\"\nParagraph \"two\"\n");
-}
-
-TEST_F(Footnotes, OnlyAsManyAsTheCountArePrinted) {
-    Add("one");
-    Add("two");
-    project.gvNumOfFootnotes = 1;
-    PrintFootnotes(context);
-    EXPECT_EQ(ValuesOf("Paragraph"), Paragraphs{"one"});
-    project.gvNumOfFootnotes = 99;  // a damaged count
-    surface.Action(3);
-    PrintFootnotes(context);
-    EXPECT_EQ(ValuesOf("Paragraph"), (Paragraphs{"one", "two"}));
-}
-
-TEST_F(Footnotes, StopBeforePageStillBreaksThePageAndTheTextAfterTheStopIsGone) {
-    Option("chkPrintTitleReport", "0");
-    Add("{\\rtf1 a<STOP>b<PAGE>c}");
-    PrintFootnotes(context);
-    surface.Action(6);
-    EXPECT_EQ(CountOf("NewPage"), 1);
-    ASSERT_EQ(layout.Result().pages.size(), 2U);
-    EXPECT_EQ(PageText(layout.Result().pages[0]), "a");
-    EXPECT_THAT(PageText(layout.Result().pages[1]), testing::Not(testing::HasSubstr("c\n")));
-}
-
-TEST_F(Footnotes, ThePrintedTextIsRichAndTheBracesAreNotSeen) {
-    Add("{\\rtf1 {\\b Price} <$$$$><PAGE>rest\\par }");
-    PrintFootnotes(context);
-    surface.Action(6);
-    EXPECT_EQ(PageText(layout.Result().pages.at(0)), "Price  $17,265.80");
-    EXPECT_THAT(PageText(layout.Result().pages.at(1)),
-                testing::EndsWith("rest\nSaturday, May 09, 1998"));
 }
 
 }  // namespace

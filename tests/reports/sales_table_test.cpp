@@ -45,56 +45,11 @@ class SalesTable : public ReportTest {
     }
 };
 
-TEST_F(SalesTable, OneSystemWithAllRowsStandsSideBySide) {
-    Fill(1);
-    Print();
-    ExpectGolden("table_one_system.txt");
-}
-
 TEST_F(SalesTable, TwoSystemsWithAllRowsStandInThreeSections) {
     Fill(2);
     Print();
     ExpectGolden("table_two_systems.txt");
 }
-
-struct FormCase {
-    int systems;
-    const char* format;
-    const char* header;
-    const char* spacer;
-    const char* models;
-    const char* availableCooling;
-};
-
-class SalesTableForms : public SalesTable, public testing::WithParamInterface<FormCase> {};
-
-TEST_P(SalesTableForms, HaveTheirOwnWidthsHeadingsAndSpacers) {
-    Fill(GetParam().systems);
-    Print();
-    EXPECT_EQ(TableField(0), GetParam().format);
-    EXPECT_EQ(TableField(1), GetParam().header);
-    EXPECT_EQ(std::get<std::int32_t>(LastTable().fields.at(3).second), 0xC0E0FF);
-    EXPECT_EQ(LastTableRows().front(), GetParam().spacer);
-    EXPECT_EQ(Row("Unit Model Number:"), GetParam().models);
-    EXPECT_EQ(Row("Available Cooling:"), GetParam().availableCooling);
-    EXPECT_EQ(ValuesOf("TableBorder"), Rows{"3"});
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    OneToFive, SalesTableForms,
-    testing::Values(FormCase{1, "<~3600|<~2400|<~2400|<~2350", "|COOLING|HEATING|HOT WATER", "|||",
-                             "Unit Model Number:|CN-1|HN-1|WN-1", "Available Cooling:|||"},
-                    FormCase{2, "<~3600|<~3600|<~3550", "|SYSTEM #1|SYSTEM #2", "||",
-                             "Unit Model Number:|CN-1|CN-2", "Available Cooling:|||"},
-                    FormCase{3, "<~3600|<~2400|<~2400|<~2350", "|SYSTEM #1|SYSTEM #2|SYSTEM #3",
-                             "|||", "Unit Model Number:|CN-1|CN-2|CN-3", "Available Cooling:|||"},
-                    FormCase{4, "<~2800|<~2000|<~2000|<~2000|<~1950",
-                             "|SYSTEM #1|SYSTEM #2|SYSTEM #3|SYSTEM #4", "||||",
-                             "Unit Model Number:|CN-1|CN-2|CN-3|CN-4", "Available Cooling:|||"},
-                    FormCase{5, "<~2300|<~1700|<~1700|<~1700|<~1700|<~1650",
-                             "|SYSTEM #1|SYSTEM #2|SYSTEM #3|SYSTEM #4|SYSTEM #5", "|||||",
-                             "Unit Model Number:|CN-1|CN-2|CN-3|CN-4|CN-5",
-                             "Available Cooling:|||||"}));
 
 TEST_F(SalesTable, WithAllRowOptionsOffOnlyTheThreeFixedRowsStand) {
     SwitchOffAllRows();
