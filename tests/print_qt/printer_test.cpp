@@ -53,7 +53,8 @@ class Printing : public testing::Test {
     QString File() const { return folder.filePath(QStringLiteral("print.pdf")); }
     PrintOutcome Print(const Document& document) {
         return PrintPages(printer, document,
-                          PagesToPrint(printer, static_cast<int>(document.pages.size())), GoOn);
+                          PagesToPrint(printer, static_cast<int>(document.pages.size())), GoOn)
+            .outcome;
     }
     /// What a tool of the system says about a file; empty when the tool isn't there.
     static std::string Ask(const char* tool, const QStringList& arguments) {
@@ -140,7 +141,8 @@ TEST_F(Printing, ACancelledJobLeavesNothing) {
         return done < 2;
     };
     EXPECT_EQ(PrintPages(printer, document,
-                         PagesToPrint(printer, static_cast<int>(document.pages.size())), stopAtTwo),
+                         PagesToPrint(printer, static_cast<int>(document.pages.size())), stopAtTwo)
+                  .outcome,
               PrintOutcome::Cancelled);
     EXPECT_THAT(told, ElementsAre(0, 1, 2));
     EXPECT_FALSE(QFile::exists(File()));

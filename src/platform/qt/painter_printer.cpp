@@ -1,10 +1,14 @@
 #include "platform/qt/painter_printer.h"
 
+#include <QDir>
 #include <QFile>
+#include <QLibrary>
 #include <QPageRanges>
 #include <QPainter>
 #include <QPrinter>
+#include <QTemporaryDir>
 #include <algorithm>
+#include <optional>
 
 #include "platform/qt/painter_page.h"
 
@@ -34,12 +38,57 @@ std::vector<int> Copies(const std::vector<int>& pages, int count, bool collated)
     return all;
 }
 
+/// Where the print system collects a job before it sends it: a folder of our own, so that a job
+/// that is given up can be taken from under it. `QPrinter::abort` sends it all the same.
+class SpoolFolder {
+  public:
+    SpoolFolder() { qputenv(variable, folder_.path().toLocal8Bit()); }
+    ~SpoolFolder() {
+        if (before_)
+            qputenv(variable, *before_);
+        else
+            qunsetenv(variable);
+    }
+    SpoolFolder(const SpoolFolder&) = delete;
+    SpoolFolder& operator=(const SpoolFolder&) = delete;
+    void Empty() const {
+        for (const QFileInfo& file : QDir(folder_.path()).entryInfoList(QDir::Files))
+            QFile::remove(file.filePath());
+    }
+
+  private:
+    static constexpr const char* variable = "TMPDIR";
+    QTemporaryDir folder_;
+    std::optional<QByteArray> before_ =
+        qEnvironmentVariableIsSet(variable) ? std::optional(qgetenv(variable)) : std::nullopt;
+};
+
+/// What CUPS says of the job that it was handed last; empty when it took it. Qt doesn't tell, but
+/// has the library loaded.
+std::string LastRefusal() {
+    constexpr int firstError = 0x400;
+    QLibrary cups(QStringLiteral("cups"), 2);
+    const auto status = reinterpret_cast<int (*)()>(cups.resolve("cupsLastError"));
+    const auto text = reinterpret_cast<const char* (*)()>(cups.resolve("cupsLastErrorString"));
+    if (!status || !text || (status() >= 0 && status() < firstError)) return {};
+    return text() ? text() : "The print system gave no reason.";
+}
+
 /// What is left of a file that was printed into is no document.
-PrintOutcome Withdraw(QPrinter& printer, QPainter& painter, PrintOutcome outcome) {
+PrintResult Withdraw(QPrinter& printer, QPainter& painter, const SpoolFolder& spool,
+                     PrintOutcome outcome) {
     printer.abort();
+    spool.Empty();
     painter.end();
     if (!printer.outputFileName().isEmpty()) QFile::remove(printer.outputFileName());
-    return outcome;
+    return {outcome, {}};
+}
+
+PrintResult Finish(const QPrinter& printer, QPainter& painter) {
+    const bool ended = painter.end() && printer.printerState() != QPrinter::Error;
+    const std::string refusal =
+        printer.outputFormat() == QPrinter::NativeFormat ? LastRefusal() : std::string();
+    return {ended && refusal.empty() ? PrintOutcome::Printed : PrintOutcome::Refused, refusal};
 }
 
 bool IsLetter(const QPageLayout& paper) {
@@ -73,23 +122,23 @@ QTransform PlaceOnPaper(const QPageLayout& paper, int resolution) {
         .translate(-page_geometry::PaperWidth / 2.0, -page_geometry::PaperHeight / 2.0);
 }
 
-PrintOutcome PrintPages(QPrinter& printer, const Document& document, const std::vector<int>& pages,
-                        const PrintProgress& progress) {
+PrintResult PrintPages(QPrinter& printer, const Document& document, const std::vector<int>& pages,
+                       const PrintProgress& progress) {
     printer.setFullPage(true);
     const QTransform place = PlaceOnPaper(printer.pageLayout(), printer.resolution());
+    const SpoolFolder spool;
     QPainter painter;
-    if (pages.empty() || !painter.begin(&printer)) return PrintOutcome::Refused;
+    if (pages.empty() || !painter.begin(&printer)) return {PrintOutcome::Refused, {}};
     const int count = static_cast<int>(pages.size());
     for (int done = 0; done < count; ++done) {
-        if (!progress(done, count)) return Withdraw(printer, painter, PrintOutcome::Cancelled);
+        if (!progress(done, count))
+            return Withdraw(printer, painter, spool, PrintOutcome::Cancelled);
         if (done > 0 && !printer.newPage())
-            return Withdraw(printer, painter, PrintOutcome::Refused);
+            return Withdraw(printer, painter, spool, PrintOutcome::Refused);
         painter.setTransform(place);
         PaintPage(painter, document, pages[static_cast<std::size_t>(done)], 1.0);
     }
-    const bool ended = painter.end();
-    return ended && printer.printerState() != QPrinter::Error ? PrintOutcome::Printed
-                                                              : PrintOutcome::Refused;
+    return Finish(printer, painter);
 }
 
 }  // namespace tendo

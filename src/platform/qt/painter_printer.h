@@ -2,6 +2,7 @@
 
 #include <QTransform>
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "platform/print/document.h"
@@ -11,8 +12,12 @@ class QPrinter;
 
 namespace tendo {
 
-/// How a print job ended.
+/// How a print job ended, and what the print system said when it refused.
 enum class PrintOutcome { Printed, Cancelled, Refused };
+struct PrintResult {
+    PrintOutcome outcome = PrintOutcome::Printed;
+    std::string reason;
+};
 
 /// Called ahead of each page with the count of those done; false stops the job.
 using PrintProgress = std::function<bool(int done, int count)>;
@@ -27,7 +32,7 @@ std::vector<int> PagesToPrint(const QPrinter& printer, int pageCount, int shownP
 QTransform PlaceOnPaper(const QPageLayout& paper, int resolution);
 
 /// Prints those pages as one job. A stopped job is withdrawn.
-PrintOutcome PrintPages(QPrinter& printer, const Document& document, const std::vector<int>& pages,
-                        const PrintProgress& progress);
+PrintResult PrintPages(QPrinter& printer, const Document& document, const std::vector<int>& pages,
+                       const PrintProgress& progress);
 
 }  // namespace tendo

@@ -67,13 +67,21 @@ class JobProgress {
     QElapsedTimer clock_;
 };
 
-PrintOutcome RunJob(QPrinter& printer, const Document& document, std::optional<int> shownPage) {
+PrintResult RunJob(QPrinter& printer, const Document& document, std::optional<int> shownPage) {
     const Hourglass pointer;
     const JobProgress progress;
     return PrintPages(
         printer, document,
         PagesToPrint(printer, static_cast<int>(document.pages.size()), shownPage.value_or(0)),
         std::cref(progress));
+}
+
+void TellRefusal(const std::string& reason) {
+    ShowMessage("Print",
+                "The printer did not take the reports." + (reason.empty() ? "" : "\n" + reason) +
+                    "\n\nLook whether it is switched on and connected, then print again, or save "
+                    "the reports as a PDF file.",
+                MessageIcon::Warning);
 }
 
 }  // namespace
@@ -93,13 +101,9 @@ bool PrintDocument(const Document& document, std::optional<int> shownPage) {
                          printer))
         return false;
     Keep(printer);
-    const PrintOutcome outcome = RunJob(printer, document, shownPage);
-    if (outcome == PrintOutcome::Refused)
-        ShowMessage("Print",
-                    "The printer did not take the reports. Look whether it is switched on and "
-                    "connected, then print again, or save the reports as a PDF file.",
-                    MessageIcon::Warning);
-    return outcome == PrintOutcome::Printed;
+    const PrintResult result = RunJob(printer, document, shownPage);
+    if (result.outcome == PrintOutcome::Refused) TellRefusal(result.reason);
+    return result.outcome == PrintOutcome::Printed;
 }
 
 void SetUpPrinter() {
