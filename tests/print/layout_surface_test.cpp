@@ -187,6 +187,103 @@ TEST_F(Layout, AHeadingWithoutRoomForItsSectionTakesItsBarToTheNextPage) {
     EXPECT_EQ(document.outline.at(0).page, 1);
 }
 
+TEST_F(Layout, AHeadingGoesAlongWithATableThatBeginsOnTheNextPage) {
+    Lines(63);  // 13320: a heading has its four lines, 1080 twips
+    surface.X1(Left);
+    surface.X2(Right);
+    surface.Y1(13250);
+    surface.Y2(13570);
+    surface.Draw(2);
+    surface.Paragraph("Sales Report");
+    surface.Paragraph("");
+    // 680 twips are left; header 270, a row of two lines 470 and a line want 940.
+    surface.AddTable("<1000", "Head", "one two three;");
+    const Document& document = Finish();
+    ASSERT_EQ(document.pages.size(), 2U);
+    EXPECT_EQ(PageText(document.pages[1]), "Sales Report\nHead\none two\nthree");
+    EXPECT_TRUE(document.pages[0].shapes.empty());
+    const BoxItem& bar = std::get<BoxItem>(document.pages[1].shapes.at(0));
+    EXPECT_EQ(bar.top, 720 - 70);
+    EXPECT_EQ(document.outline.at(0).page, 1);
+    EXPECT_EQ(document.outline.at(0).y, 720 - 70);
+    // Heading and empty line, then the header's padding and ascent.
+    EXPECT_EQ(document.pages[1].texts[1].y, 720 + 400 + 35 + 160);
+}
+
+TEST_F(Layout, ALargeHeadingsBarGrowsWithIt) {
+    surface.FontSize(30);  // 600 twips: capitals 420, descent 120
+    surface.X1(Left);
+    surface.X2(Right);
+    surface.Y1(700);
+    surface.Y2(1017);
+    surface.Draw(2);
+    surface.Paragraph("Sales Report");
+    const Page& page = Finish().pages.at(0);
+    const BoxItem& bar = std::get<BoxItem>(page.shapes.at(0));
+    EXPECT_EQ(bar.top, 700);
+    EXPECT_EQ(bar.bottom, 700 + 660);
+    EXPECT_EQ(page.texts[0].y, (700 + 1360 + 420) / 2);
+}
+
+TEST_F(Layout, NoLineOfAParagraphStandsAloneAtTheFootOfAPage) {
+    Lines(67);  // one line is left
+    surface.Paragraph(std::string(106, 'a') + " " + std::string(106, 'b') + " " +
+                      std::string(106, 'c') + " d");
+    const Document& document = Finish();
+    ASSERT_EQ(document.pages.size(), 2U);
+    EXPECT_EQ(document.pages[0].texts.size(), 67U);
+    EXPECT_EQ(document.pages[1].texts.size(), 4U);
+}
+
+TEST_F(Layout, NoLineOfAParagraphStandsAloneAtTheHeadOfAPage) {
+    Lines(65);  // three lines are left for a paragraph of four: two stay, two go
+    surface.Paragraph(std::string(106, 'a') + " " + std::string(106, 'b') + " " +
+                      std::string(106, 'c') + " d");
+    const Document& document = Finish();
+    ASSERT_EQ(document.pages.size(), 2U);
+    EXPECT_EQ(document.pages[0].texts.size(), 67U);
+    EXPECT_EQ(document.pages[1].texts.size(), 2U);
+}
+
+TEST_F(Layout, AParagraphOfThreeLinesStaysWhole) {
+    Lines(66);
+    surface.Paragraph(std::string(106, 'a') + " " + std::string(106, 'b') + " c");
+    const Document& document = Finish();
+    ASSERT_EQ(document.pages.size(), 2U);
+    EXPECT_EQ(document.pages[1].texts.size(), 3U);
+}
+
+TEST_F(Layout, CentredLinesKeepSingleSpacing) {
+    surface.LineSpacing(200);
+    surface.TextAlign(1);
+    surface.Paragraph("TENDO SALES PROPOSAL");
+    EXPECT_EQ(surface.CurrentY(), 920);
+    surface.TextAlign(0);
+    surface.Paragraph("text");
+    EXPECT_EQ(surface.CurrentY(), 1320);
+}
+
+TEST_F(Layout, TheBannersRuleGivesWayToLinesThatNeedTheRoom) {
+    surface.DrawLine(331, 1200, 11203, 1200);
+    surface.Paragraph("one");
+    surface.Paragraph("two");  // ends at 1120
+    EXPECT_EQ(std::get<LineItem>(surface.Result().pages[0].shapes[0]).y1, 1200);
+    surface.Paragraph("three");  // ends at 1320
+    const LineItem& rule = std::get<LineItem>(surface.Result().pages[0].shapes[0]);
+    EXPECT_EQ(rule.y1, 1380);
+    EXPECT_EQ(rule.y2, 1380);
+    surface.Paragraph("");  // an empty line doesn't collide
+    surface.Paragraph("below");
+    EXPECT_EQ(std::get<LineItem>(surface.Result().pages[0].shapes[0]).y1, 1380);
+}
+
+TEST_F(Layout, ARuleBehindThePenStaysWhereItIs) {
+    surface.Paragraph("one");
+    surface.DrawLine(331, 920, 11203, 920);
+    surface.Paragraph("two");
+    EXPECT_EQ(std::get<LineItem>(Finish().pages[0].shapes[0]).y1, 920);
+}
+
 TEST_F(Layout, AHeadingWithRoomForItsSectionStays) {
     Lines(64);  // 13520; four lines of 200 fit
     surface.X1(Left);

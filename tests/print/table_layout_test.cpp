@@ -170,7 +170,64 @@ TEST_F(Tables, ATotalOfAComparisonStandsOut) {
     EXPECT_FALSE(bold(0));
     EXPECT_TRUE(bold(2));
     EXPECT_TRUE(bold(3));
-    EXPECT_TRUE(page.shapes.empty());
+}
+
+TEST_F(Tables, EachSectionOfAComparisonEndsWithARule) {
+    surface.TableBorder(3);
+    // A spacer of 100 begins the table and parts its two sections of one row.
+    surface.AddTable("<3000|<3000", "", "|;a|1;|;b|2;");
+    const Page& page = FinishOnePage();
+    ASSERT_EQ(page.shapes.size(), 2U);
+    const LineItem& first = std::get<LineItem>(page.shapes[0]);
+    EXPECT_EQ(first.x1, 385);
+    EXPECT_EQ(first.x2, 6385);
+    EXPECT_EQ(first.y1, 720 + 100 + RowHeight + 50);  // in the middle of the spacer
+    EXPECT_EQ(std::get<LineItem>(page.shapes[1]).y1, 720 + 2 * 100 + 2 * RowHeight);
+}
+
+TEST_F(Tables, ATotalTakesTheRowAboveItToTheNextPage) {
+    surface.TableBorder(3);
+    for (int i = 0; i < 66; ++i)
+        surface.Paragraph("line");  // 480 twips are left: one row of 270, not two
+    surface.AddTable("<5000", "", "List Price:;Total Price:;");
+    const Document& document = Finish();
+    ASSERT_EQ(document.pages.size(), 2U);
+    EXPECT_EQ(PageText(document.pages[1]), "List Price:\nTotal Price:");
+}
+
+TEST_F(Tables, ARepeatedHeaderKeepsTheSpaceBelowIt) {
+    surface.AddTable("<5000", "Head", ";" + Rows(50, "row "));
+    const Document& document = Finish();
+    ASSERT_EQ(document.pages.size(), 2U);
+    // Header 270, spacer 100, padding 35 and an ascent of 160.
+    EXPECT_EQ(document.pages[0].texts[1].y, 720 + 270 + 100 + 35 + 160);
+    EXPECT_EQ(document.pages[1].texts[1].y, 720 + 270 + 100 + 35 + 160);
+}
+
+TEST_F(Tables, WideLineSpacingStandsHalfAboveAndHalfBelowTheText) {
+    surface.LineSpacing(200);
+    surface.AddTable("<5000", "", "a;");
+    EXPECT_EQ(surface.CurrentY(), 720 + 400 + 70);
+    EXPECT_EQ(FinishOnePage().texts[0].y, 720 + 35 + 100 + 160);
+}
+
+TEST_F(Tables, AHeaderOnADarkShadeIsWhite) {
+    surface.TextColor(0x333333);
+    surface.AddTable("<5000", "Head", "a;", 0x703020);  // blue-green-red: a dark blue
+    surface.AddTable("<5000", "Head", "a;", 0xC0E0FF);
+    const Page& page = FinishOnePage();
+    EXPECT_EQ(page.texts[0].color, Rgb{0xFFFFFF});
+    EXPECT_EQ(page.texts[1].color, Rgb{0x333333});
+    EXPECT_EQ(page.texts[2].color, Rgb{0x333333});
+}
+
+TEST_F(Tables, ATableWiderThanThePageIsNarrowedToIt) {
+    surface.AddTable("<21500|>10750", "Head|Head", "a|b;", 0xFF);
+    const Page& page = FinishOnePage();
+    const BoxItem& shade = std::get<BoxItem>(page.shapes.at(0));
+    // 21500 and 10750 of 32250 in 10750: 7166 and 3583.
+    EXPECT_EQ(shade.right, 385 + 7166 + 3583);
+    EXPECT_EQ(page.texts.back().x, 385 + 7166 + 3583 - CellPadding - 100);
 }
 
 TEST_F(Tables, ARuledTableHasALineUnderEachRowButNoSpacer) {

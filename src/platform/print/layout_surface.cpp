@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
+#include "platform/print/contrast.h"
+#include "platform/print/running_fields.h"
 #include "platform/print/table_layout.h"
-#include "platform/text/text.h"
 
 namespace tendo {
 
@@ -15,25 +17,19 @@ using namespace page_geometry;
 constexpr int TextLeft = Left + TextInset;
 constexpr int TextRight = Right - TextInset;
 constexpr int NarrowestText = 720;
+constexpr int FarthestPen = 100 * PaperHeight;
 constexpr int BorderPen = 15;
-constexpr int HeaderCentre = 374;  // of the grey band above the text, 2 to 50 hundredths
-constexpr int FooterTop = Bottom + 60;
-constexpr int RunningFieldWidth = 5000;
 constexpr int LinesWithHeading = 4;       // a heading and what must follow it on its page
 constexpr int SpaceBehindRichText = 100;  // parts one footnote from the next
+constexpr int BarTolerance = 15;
+constexpr int SpaceAboveRule = 60;
 constexpr int BoxBorder = 4;
+constexpr int Centred = 1;  // of TextAlign
 constexpr int Rectangle = 2;
 constexpr int SolidBrush = 0;
 
 bool IsBlank(const TextLine& line) {
     return line.width <= 0;
-}
-
-std::vector<StyledRun> StyledRuns(FontTable& fonts, const RichParagraph& paragraph) {
-    std::vector<StyledRun> runs;
-    for (const RichRun& run : paragraph.runs)
-        runs.push_back({run.text, fonts.Id(run.font), run.color});
-    return runs;
 }
 
 }  // namespace
@@ -95,10 +91,10 @@ void LayoutSurface::Set(SurfaceOp op, const SurfaceValue& value) {
         case SurfaceOp::Picture:
             return AddPicture(text());
         case SurfaceOp::CurrentX:
-            flow_.x = number();
+            flow_.x = std::clamp(number(), -FarthestPen, FarthestPen);
             return;
         case SurfaceOp::CurrentY:
-            flow_.y = number();
+            flow_.y = std::clamp(number(), -FarthestPen, FarthestPen);
             return;
         case SurfaceOp::HdrFont:
             return Keep(SurfaceOp::HdrFontName, value);
@@ -113,7 +109,7 @@ void LayoutSurface::DoAction(int action) {
     if (action == Start) {
         flow_.Begin();
         SetDefaults();
-        barPage_ = 0;
+        closingRule_.reset();
         documentOpen_ = true;
     } else if (action == End && documentOpen_) {
         flow_.End();
@@ -141,7 +137,8 @@ RichRun LayoutSurface::HeaderFormat() const {
 }
 
 int LayoutSurface::LineSpacingPercent() const {
-    return std::clamp(Number(SurfaceOp::LineSpacing), 50, 400);
+    const int percent = Number(SurfaceOp::LineSpacing);
+    return percent <= 0 ? 100 : std::clamp(percent, 50, 400);
 }
 
 int LayoutSurface::PenTwips() const {
@@ -160,82 +157,100 @@ void LayoutSurface::WriteParagraph(std::string_view text) {
 }
 
 void LayoutSurface::WriteRich(const RichParagraph& paragraph) {
-    const int left = TextLeft + paragraph.leftIndent;
-    const int right = std::max(TextRight - paragraph.rightIndent, left + NarrowestText);
-    LineShape shape{right - left, std::max(paragraph.firstIndent, -paragraph.leftIndent), 0, {}};
+    const int indent = std::clamp(paragraph.leftIndent, 0, TextRight - TextLeft - NarrowestText);
+    const int left = TextLeft + indent;
+    const int right =
+        std::max(TextRight - std::max(paragraph.rightIndent, 0), left + NarrowestText);
+    LineShape shape{
+        right - left, std::clamp(paragraph.firstIndent, -indent, (right - left) / 2), 0, {}};
     for (const int tab : paragraph.tabs)
-        shape.tabs.push_back(tab - paragraph.leftIndent);
-    if (flow_.y > Top) flow_.y += paragraph.spaceBefore;
+        shape.tabs.push_back(tab - indent);
+    if (flow_.y > Top) flow_.y += std::clamp(paragraph.spaceBefore, 0, Bottom);
     const std::vector<StyledRun> runs = StyledRuns(fonts_, paragraph);
-    for (const TextLine& line : BreakLines(fonts_, runs, shape))
-        WriteLine(line, LineStart(paragraph.align, left, right, line.width));
-    flow_.y += paragraph.spaceAfter;
+    WriteLines(BreakLines(fonts_, runs, shape), paragraph.align, left, right);
+    flow_.y += std::clamp(paragraph.spaceAfter, 0, Bottom);
+}
+
+void LayoutSurface::WriteLines(const std::vector<TextLine>& lines, RichAlign align, int left,
+                               int right) {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (LeavesLoneLine(lines, i)) flow_.BreakPage();
+        WriteLine(lines[i], LineStart(align, left, right, lines[i].width));
+    }
+}
+
+/// No line of a paragraph stands alone at the foot of a page or at the head of the next.
+bool LayoutSurface::LeavesLoneLine(const std::vector<TextLine>& lines, std::size_t from) const {
+    const std::size_t rest = lines.size() - from;
+    const int height = LineHeight(lines[from]);
+    if (rest < 2 || height > (Bottom - Top) / 8 || !flow_.Fits(height)) return false;
+    if (from == 0 && !flow_.Fits(2 * height)) return true;
+    if (from == 0 && rest == 3) return !flow_.Fits(3 * height);
+    return from > 0 && rest == 2 && !flow_.Fits(2 * height);
+}
+
+/// Line spacing is for running text. Centred lines stand in title and banner, among boxes and
+/// rules that have their fixed places.
+int LayoutSurface::LineHeight(const TextLine& line) const {
+    const bool display = Number(SurfaceOp::TextAlign) == Centred;
+    return display ? line.height : line.height * LineSpacingPercent() / 100;
 }
 
 void LayoutSurface::WriteLine(const TextLine& line, double left) {
-    const int height = line.height * LineSpacingPercent() / 100;
-    if (IsOnBar(line))
-        KeepHeadingTogether(height);
-    else if (!flow_.Fits(height))
-        flow_.NewPage();
-    if (IsOnBar(line)) {
-        flow_.AddLine(line, left, TopOnBar(line));
-        AddHeading(line);
+    const int height = LineHeight(line);
+    const bool heading = IsOnBar(line);
+    if (!flow_.Fits(heading ? height * LinesWithHeading : height)) flow_.BreakPage();
+    if (heading) {
+        WriteHeading(line, left);
     } else {
         flow_.AddLine(line, left, flow_.y);
+        if (!IsBlank(line)) KeepRuleBelow(flow_.y + height);
     }
     flow_.y += height;
 }
 
-/// A heading with no room for some lines of its section goes to the next page and takes its bar
-/// along.
-void LayoutSurface::KeepHeadingTogether(int height) {
-    if (flow_.Fits(height * LinesWithHeading)) return;
-    const int rise = flow_.y - bar_.top;
-    BoxItem bar = bar_;
-    std::vector<Shape>& shapes = flow_.Current().shapes;
-    if (const BoxItem* last = std::get_if<BoxItem>(&shapes.back()); last && last->top == bar.top)
-        shapes.pop_back();
-    flow_.NewPage();
-    bar.bottom += flow_.y - rise - bar.top;
-    bar.top = flow_.y - rise;
-    PlaceBar(bar);
+bool LayoutSurface::IsOnBar(const TextLine& line) const {
+    const BoxItem* bar = flow_.OpenBar();
+    return bar && !IsBlank(line) && flow_.y >= bar->top && flow_.y < bar->bottom;
 }
 
-void LayoutSurface::PlaceBar(const BoxItem& bar) {
-    flow_.Current().shapes.push_back(bar);
-    bar_ = bar;
-    barPage_ = flow_.PageNumber();
+/// Capitals stand in the middle of the bar, whatever the size of the heading's font; the bar of a
+/// large one grows with it.
+void LayoutSurface::WriteHeading(const TextLine& line, double left) {
+    const FontMetrics& metrics = fonts_.Metrics(line.fragments.front().font);
+    const int needed = metrics.capHeight + 2 * metrics.descent;
+    if (needed > flow_.OpenBar()->bottom - flow_.OpenBar()->top + BarTolerance)
+        flow_.GrowBar(needed);
+    const BoxItem& bar = *flow_.OpenBar();
+    const int top = (bar.top + bar.bottom + metrics.capHeight) / 2 - line.ascent;
+    std::string title;
+    for (const LineFragment& fragment : line.fragments)
+        title += fragment.text;
+    flow_.AddLine(line, left, top);
+    flow_.EnterHeading(title);
+    closingRule_.reset();
+}
+
+/// A rule drawn ahead of the pen closes the lines that are written above it. It gives way to lines
+/// that need more room.
+void LayoutSurface::KeepRuleBelow(int bottom) {
+    if (closingRulePage_ != flow_.PageNumber()) closingRule_.reset();
+    if (!closingRule_) return;
+    LineItem& rule = std::get<LineItem>(flow_.Current().shapes[*closingRule_]);
+    if (flow_.y >= rule.y1)
+        closingRule_.reset();
+    else if (bottom > rule.y1)
+        rule.y1 = rule.y2 = bottom + SpaceAboveRule;
 }
 
 double LayoutSurface::LineStart(RichAlign align, double left, double right, double width) const {
-    constexpr int Centred = 1, ToTheRight = 2;
+    constexpr int ToTheRight = 2;
     const int textAlign = Number(SurfaceOp::TextAlign);
     const bool inherit = align == RichAlign::Inherit;
     if (align == RichAlign::Center || (inherit && textAlign == Centred))
         return left + (right - left - width) / 2;
     if (align == RichAlign::Right || (inherit && textAlign == ToTheRight)) return right - width;
     return left;
-}
-
-bool LayoutSurface::IsOnBar(const TextLine& line) const {
-    const bool wide = bar_.right - bar_.left > (Right - Left) * 3 / 4;
-    return barPage_ == flow_.PageNumber() && wide && !IsBlank(line) && flow_.y >= bar_.top &&
-           flow_.y < bar_.bottom;
-}
-
-/// Capitals stand in the middle of the bar, whatever the size of the heading's font.
-int LayoutSurface::TopOnBar(const TextLine& line) const {
-    const int capHeight = fonts_.Metrics(line.fragments.front().font).capHeight;
-    return (bar_.top + bar_.bottom + capHeight) / 2 - line.ascent;
-}
-
-void LayoutSurface::AddHeading(const TextLine& line) {
-    std::string title;
-    for (const LineFragment& fragment : line.fragments)
-        title += fragment.text;
-    flow_.Doc().outline.push_back({title, flow_.PageNumber() - 1, bar_.top});
-    barPage_ = 0;
 }
 
 void LayoutSurface::WriteText(std::string_view text) {
@@ -260,7 +275,7 @@ void LayoutSurface::DrawShape() {
         box.fill = RgbOfColor(Number(SurfaceOp::BrushColor));
     if (box.penWidth > 0) box.outline = RgbOfColor(Number(SurfaceOp::PenColor));
     if (box.fill)
-        PlaceBar(box);
+        flow_.PlaceBar(box);
     else
         flow_.Current().shapes.push_back(box);
 }
@@ -274,6 +289,10 @@ void LayoutSurface::AddPicture(std::string_view path) {
 
 void LayoutSurface::DrawLine(int x1, int y1, int x2, int y2) {
     flow_.EnsurePage();
+    if (y1 == y2 && y1 > flow_.y && std::abs(x2 - x1) >= Right - Left) {
+        closingRule_ = flow_.Current().shapes.size();
+        closingRulePage_ = flow_.PageNumber();
+    }
     flow_.Current().shapes.push_back(
         LineItem{x1, y1, x2, y2, RgbOfColor(Number(SurfaceOp::PenColor)), PenTwips()});
 }
@@ -283,10 +302,17 @@ void LayoutSurface::WriteTable(std::string_view format, std::string_view header,
     const RichRun text = TextFormat();
     FontSpec boldFont = text.font;
     boldFont.bold = true;
-    TableStyle style{
-        FontId(text.font),   FontId(boldFont), text.color, Number(SurfaceOp::TableBorder), {},
-        LineSpacingPercent()};
-    if (headerShade) style.headerShade = RgbOfColor(*headerShade);
+    TableStyle style{FontId(text.font),
+                     FontId(boldFont),
+                     text.color,
+                     text.color,
+                     Number(SurfaceOp::TableBorder),
+                     {},
+                     LineSpacingPercent()};
+    if (headerShade) {
+        style.headerShade = RgbOfColor(*headerShade);
+        style.headerColor = LegibleOn(*style.headerShade, text.color);
+    }
     tendo::WriteTable(flow_, style, format, header, body);
 }
 
@@ -296,37 +322,11 @@ void LayoutSurface::ClosePage() {
     Page& page = flow_.Current();
     std::vector<TextItem> body = std::move(page.texts);
     page.texts.clear();
-    AddRunningFields(Held(SurfaceOp::Header), true);
+    WriteRunningHeader(flow_, HeaderFormat(), Held(SurfaceOp::Header));
     page.texts.insert(page.texts.end(), body.begin(), body.end());
-    AddRunningFields(Held(SurfaceOp::Footer), false);
+    WriteRunningFooter(flow_, HeaderFormat(), Held(SurfaceOp::Footer));
     if (Number(SurfaceOp::PageBorder) == BoxBorder)
         page.shapes.push_back(BoxItem{Left, Top, Right, Bottom, {}, Rgb{0}, BorderPen});
-}
-
-void LayoutSurface::AddRunningFields(std::string_view fields, bool header) {
-    std::vector<std::string> parts = Split(fields, '|');
-    parts.resize(3);
-    AddRunningField(parts[0], RichAlign::Left, header);
-    AddRunningField(parts[1], RichAlign::Center, header);
-    AddRunningField(parts[2], RichAlign::Right, header);
-}
-
-void LayoutSurface::AddRunningField(std::string_view field, RichAlign align, bool header) {
-    if (field.empty()) return;
-    std::vector<TextLine> lines;
-    int height = 0;
-    for (const RichParagraph& paragraph : ReadRichOrPlainText(field, HeaderFormat()).paragraphs) {
-        const std::vector<StyledRun> runs = StyledRuns(fonts_, paragraph);
-        for (TextLine& line : BreakLines(fonts_, runs, {RunningFieldWidth, 0, 0, {}})) {
-            height += line.height;
-            lines.push_back(std::move(line));
-        }
-    }
-    int top = header ? HeaderCentre - height / 2 : FooterTop;
-    for (const TextLine& line : lines) {
-        flow_.AddLine(line, LineStart(align, TextLeft, TextRight, line.width), top);
-        top += line.height;
-    }
 }
 
 }  // namespace tendo

@@ -48,20 +48,19 @@ class LayoutSurface : public PrintSurface {
     void DoAction(int action);
     void WriteParagraph(std::string_view text);
     void WriteRich(const RichParagraph& paragraph);
+    void WriteLines(const std::vector<TextLine>& lines, RichAlign align, int left, int right);
+    bool LeavesLoneLine(const std::vector<TextLine>& lines, std::size_t from) const;
+    int LineHeight(const TextLine& line) const;
     void WriteLine(const TextLine& line, double left);
-    void KeepHeadingTogether(int height);
-    void PlaceBar(const BoxItem& bar);
     bool IsOnBar(const TextLine& line) const;
-    int TopOnBar(const TextLine& line) const;
-    void AddHeading(const TextLine& line);
+    void WriteHeading(const TextLine& line, double left);
+    void KeepRuleBelow(int bottom);
     void WriteText(std::string_view text);
     void DrawShape();
     void AddPicture(std::string_view path);
     double LineStart(RichAlign align, double left, double right, double width) const;
 
     void ClosePage();
-    void AddRunningFields(std::string_view fields, bool header);
-    void AddRunningField(std::string_view field, RichAlign align, bool header);
 
     RichRun TextFormat() const;
     RichRun HeaderFormat() const;
@@ -75,9 +74,8 @@ class LayoutSurface : public PrintSurface {
     std::array<std::string, static_cast<std::size_t>(SurfaceOp::Count)> texts_;
     int measuredWidth_ = 0;
     bool documentOpen_ = false;
-    /// The filled bar drawn last, on the page it stands on: a paragraph begun on it is a heading.
-    BoxItem bar_;
-    int barPage_ = 0;
+    std::optional<std::size_t> closingRule_;  // a shape of its page
+    int closingRulePage_ = 0;
 };
 
 /// A colour of the program (blue-green-red, or a system colour) as 0xRRGGBB.

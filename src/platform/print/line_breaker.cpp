@@ -25,6 +25,28 @@ std::size_t CharacterBytes(std::string_view text) {
     return bytes;
 }
 
+/// True when a text begins with an accent that stands on the character before it (U+0300 to
+/// U+036F).
+bool BeginsWithAccent(std::string_view text) {
+    if (text.size() < 2) return false;
+    const auto first = static_cast<unsigned char>(text[0]);
+    return first == 0xCC || (first == 0xCD && static_cast<unsigned char>(text[1]) < 0xB0);
+}
+
+/// Bytes of the first character and its accents.
+std::size_t LetterBytes(std::string_view text) {
+    std::size_t bytes = CharacterBytes(text);
+    while (BeginsWithAccent(text.substr(bytes)))
+        bytes += CharacterBytes(text.substr(bytes));
+    return bytes;
+}
+
+/// Bytes up to and with the first sign behind which a long word may be broken.
+std::size_t SyllableBytes(std::string_view text) {
+    const std::size_t sign = text.find_first_of("-/,_@", 1);
+    return sign == std::string_view::npos ? text.size() : sign + 1;
+}
+
 class LineBreaker {
   public:
     LineBreaker(FontTable& fonts, const LineShape& shape)
@@ -99,21 +121,37 @@ class LineBreaker {
         blanks_.clear();
     }
 
-    /// A word wider than the line: as many characters as fit, at least one a line.
+    /// A word wider than the line: broken behind hyphens and the like, and where that doesn't do,
+    /// as many characters as fit, at least one a line.
     void PlaceBroken() {
-        for (const Piece& piece : word_) {
-            std::string_view rest = piece.text;
-            while (!rest.empty()) {
-                const std::string_view character = rest.substr(0, CharacterBytes(rest));
-                const double width = fonts_.WordWidth(piece.font, character);
-                if (x_ + width > shape_.width && !line_.fragments.empty()) {
-                    EndLine();
-                    x_ = shape_.restIndent;
-                }
-                Place({character, piece.font, piece.color, width});
-                rest.remove_prefix(character.size());
-            }
+        for (const Piece& piece : word_)
+            ForEachPart(piece, SyllableBytes, [this](const Piece& syllable) {
+                if (syllable.width <=
+                    shape_.width - std::max(shape_.restIndent, shape_.firstIndent))
+                    PlacePart(syllable);
+                else
+                    ForEachPart(syllable, LetterBytes,
+                                [this](const Piece& letter) { PlacePart(letter); });
+            });
+    }
+
+    template <class Place>
+    void ForEachPart(const Piece& piece, std::size_t (*bytesOfFirst)(std::string_view),
+                     Place&& place) {
+        std::string_view rest = piece.text;
+        while (!rest.empty()) {
+            const std::string_view part = rest.substr(0, bytesOfFirst(rest));
+            place(Piece{part, piece.font, piece.color, fonts_.WordWidth(piece.font, part)});
+            rest.remove_prefix(part.size());
         }
+    }
+
+    void PlacePart(const Piece& part) {
+        if (x_ + part.width > shape_.width && !line_.fragments.empty()) {
+            EndLine();
+            x_ = shape_.restIndent;
+        }
+        Place(part);
     }
 
     void Place(const Piece& piece) {
@@ -158,6 +196,13 @@ class LineBreaker {
 };
 
 }  // namespace
+
+std::vector<StyledRun> StyledRuns(FontTable& fonts, const RichParagraph& paragraph) {
+    std::vector<StyledRun> runs;
+    for (const RichRun& run : paragraph.runs)
+        runs.push_back({run.text, fonts.Id(run.font), run.color});
+    return runs;
+}
 
 std::vector<TextLine> BreakLines(FontTable& fonts, std::span<const StyledRun> runs,
                                  const LineShape& shape) {

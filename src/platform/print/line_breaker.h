@@ -7,6 +7,7 @@
 
 #include "platform/print/document.h"
 #include "platform/print/font_table.h"
+#include "platform/print/rich_model.h"
 
 namespace tendo {
 
@@ -16,6 +17,9 @@ struct StyledRun {
     int font = 0;
     Rgb color = 0;
 };
+
+/// The runs of a paragraph with the numbers of their fonts; the texts stay the paragraph's.
+std::vector<StyledRun> StyledRuns(FontTable& fonts, const RichParagraph& paragraph);
 
 /// A stretch of one font on a line; `x` counts from the line's own left edge.
 struct LineFragment {
@@ -40,7 +44,8 @@ struct LineShape {
 };
 
 /// Breaks runs into lines. Blanks at a paragraph's start stay, those at a break vanish; a word
-/// wider than the line is broken between characters. There is always at least one line.
+/// wider than the line is broken behind its hyphens or, failing that, between characters. There is
+/// always at least one line.
 std::vector<TextLine> BreakLines(FontTable& fonts, std::span<const StyledRun> runs,
                                  const LineShape& shape);
 

@@ -1,11 +1,14 @@
 #include "platform/print/page_flow.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tendo {
 
 void PageFlow::Begin() {
     document_ = {};
+    heading_ = {};
     x = page_geometry::Left;
     y = page_geometry::Top;
 }
@@ -23,6 +26,75 @@ void PageFlow::NewPage() {
     EnsurePage();
     if (onClose) onClose();
     OpenPage();
+}
+
+void PageFlow::BreakPage() {
+    EnsurePage();
+    if (!HeadingStandsAlone()) return NewPage();
+    const Heading heading = heading_;  // the new page's header has a bar of its own
+    const int penBehind = y - heading.pen;
+    std::vector<TextItem> texts = LiftHeading();
+    NewPage();
+    PutDown(heading, std::move(texts), penBehind);
+}
+
+int PageFlow::RoomBehindBreak() const {
+    const int page = page_geometry::Bottom - page_geometry::Top;
+    return HeadingStandsAlone() ? page - (y - heading_.pen) : page;
+}
+
+void PageFlow::PlaceBar(const BoxItem& bar) {
+    constexpr int Narrowest = (page_geometry::Right - page_geometry::Left) * 3 / 4;
+    if (bar.right - bar.left > Narrowest && y >= bar.top && y < bar.bottom)
+        heading_ = {bar, PageNumber(), Current().shapes.size(), Current().texts.size(), 0, y};
+    Current().shapes.push_back(bar);
+}
+
+const BoxItem* PageFlow::OpenBar() const {
+    return HeadingStandsAlone() && heading_.ownTexts == 0 ? &heading_.bar : nullptr;
+}
+
+void PageFlow::GrowBar(int height) {
+    heading_.bar.bottom = std::max(heading_.bar.bottom, heading_.bar.top + height);
+    Current().shapes[heading_.shape] = heading_.bar;
+}
+
+void PageFlow::EnterHeading(const std::string& title) {
+    heading_.ownTexts = Current().texts.size() - heading_.texts;
+    document_.outline.push_back({title, PageNumber() - 1, heading_.bar.top});
+}
+
+bool PageFlow::HeadingStandsAlone() const {
+    if (heading_.page == 0 || heading_.page != PageNumber()) return false;
+    const Page& page = document_.pages.back();
+    return page.shapes.size() == heading_.shape + 1 &&
+           page.texts.size() == heading_.texts + heading_.ownTexts;
+}
+
+std::vector<TextItem> PageFlow::LiftHeading() {
+    Page& page = Current();
+    const auto first = page.texts.begin() + static_cast<std::ptrdiff_t>(heading_.texts);
+    std::vector<TextItem> texts(first, page.texts.end());
+    page.texts.erase(first, page.texts.end());
+    page.shapes.pop_back();
+    return texts;
+}
+
+void PageFlow::PutDown(const Heading& heading, std::vector<TextItem> texts, int penBehind) {
+    const int shift = y - heading.pen;
+    BoxItem bar = heading.bar;
+    bar.top += shift;
+    bar.bottom += shift;
+    PlaceBar(bar);
+    for (TextItem& text : texts) {
+        text.y += shift;
+        Current().texts.push_back(std::move(text));
+    }
+    heading_.ownTexts = heading.ownTexts;
+    y += penBehind;
+    if (heading.ownTexts == 0) return;
+    document_.outline.back().page = PageNumber() - 1;
+    document_.outline.back().y = bar.top;
 }
 
 void PageFlow::OpenPage() {

@@ -1,6 +1,7 @@
 #include "platform/print/table_layout.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "platform/print/table_text.h"
 #include "platform/text/text.h"
@@ -10,6 +11,8 @@ namespace tendo {
 namespace {
 
 constexpr int RowPadding = 35;  // above and below the lines of a cell
+constexpr int WidestTable =
+    page_geometry::Right - page_geometry::Left - 2 * page_geometry::TableInset;
 constexpr int ComparisonBorder = 3, RuledBorder = 2, GridBorder = 7;
 constexpr Rgb RuleColor = 0xC8CDD2;
 constexpr int RuleWidth = 8;
@@ -25,42 +28,58 @@ class TableWriter {
   public:
     TableWriter(PageFlow& flow, const TableStyle& style, std::string_view format)
         : flow_(flow), style_(style), columns_(ParseTableFormat(format)) {
-        lineHeight_ = flow.Fonts().Metrics(style.font).lineHeight * style.lineSpacing / 100;
-        lineHeight_ = std::max(lineHeight_, 1);
-        for (const TableColumn& column : columns_)
-            tableWidth_ += column.width;
+        const int single = flow.Fonts().Metrics(style.font).lineHeight;
+        lineHeight_ = std::max(single * style.lineSpacing / 100, 1);
+        halfLeading_ = (lineHeight_ - single) / 2;
+        NarrowToPage();
     }
 
     void Write(std::string_view header, std::string_view body) {
         flow_.EnsurePage();
         if (!header.empty()) {
-            header_ = LayOut(header, style_.boldFont);
+            header_ = LayOut(header, style_.boldFont, style_.headerColor);
             header_->header = true;
         }
-        bool headerWritten = false;
-        for (const std::string_view text : SplitRows(body)) {
-            const RowLayout row = LayOut(text, IsTotal(text) ? style_.boldFont : style_.font);
-            if (!headerWritten) WriteFirstHeader(row);
-            headerWritten = true;
-            WriteRow(row);
+        const std::vector<std::string_view> rows = SplitRows(body);
+        if (rows.empty()) WriteFirstHeader({});
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            const RowLayout row = LayOutRow(rows[i]);
+            if (i == 0) WriteFirstHeader(row);
+            const bool total = i + 1 < rows.size() && IsTotal(rows[i + 1]);
+            WriteRow(row, total ? Height(LayOutRow(rows[i + 1])) : 0);
         }
-        if (!headerWritten) WriteFirstHeader({});
+        EndSection(flow_.y);
         flow_.x = page_geometry::Left;
     }
 
   private:
+    void NarrowToPage() {
+        std::int64_t wanted = 0;
+        for (const TableColumn& column : columns_)
+            wanted += column.width;
+        for (TableColumn& column : columns_) {
+            if (wanted > WidestTable)
+                column.width = static_cast<int>(column.width * WidestTable / wanted);
+            tableWidth_ += column.width;
+        }
+    }
+
     /// The line of totals of a comparison stands out.
     bool IsTotal(std::string_view row) const {
         return style_.border == ComparisonBorder && StartsWith(row, "Total");
     }
 
-    RowLayout LayOut(std::string_view text, int font) {
+    RowLayout LayOutRow(std::string_view text) {
+        return LayOut(text, IsTotal(text) ? style_.boldFont : style_.font, style_.color);
+    }
+
+    RowLayout LayOut(std::string_view text, int font, Rgb color) {
         RowLayout row;
         row.blank = text.find_first_not_of("| \r\n") == std::string_view::npos;
         const std::vector<std::string_view> cells = SplitCells(text, columns_.size());
         row.cells.reserve(cells.size());
         for (std::size_t i = 0; i < cells.size(); ++i) {
-            const StyledRun run{cells[i], font, style_.color};
+            const StyledRun run{cells[i], font, color};
             const int width = std::max(columns_[i].width - 2 * page_geometry::CellPadding, 1);
             row.cells.push_back(BreakLines(flow_.Fonts(), {&run, 1}, {width, 0, 0, {}}));
             row.lines = std::max(row.lines, row.cells.back().size());
@@ -77,29 +96,54 @@ class TableWriter {
     /// The header doesn't stand alone at the foot of a page.
     void WriteFirstHeader(const RowLayout& firstRow) {
         if (!header_) return;
+        if (firstRow.blank) spaceBelowHeader_ = Height(firstRow);
         const int needed = Height(*header_) + Height(firstRow) + lineHeight_;
-        if (!flow_.Fits(needed) && flow_.y > page_geometry::Top + lineHeight_ * 2) flow_.NewPage();
+        if (!flow_.Fits(needed) && needed + 2 * lineHeight_ < flow_.RoomBehindBreak())
+            flow_.BreakPage();
         Place(*header_, 0, header_->lines);
     }
 
+    /// The next page begins as the table did: with its header and the space below it.
     void BreakPage() {
-        flow_.NewPage();
-        if (!header_) return;
-        if (Height(*header_) < (page_geometry::Bottom - page_geometry::Top) / 2)
-            Place(*header_, 0, header_->lines);
+        flow_.BreakPage();
+        if (!IsHeaderRepeated()) return;
+        Place(*header_, 0, header_->lines);
+        flow_.y += spaceBelowHeader_;
     }
 
-    void WriteRow(const RowLayout& row) {
-        if (!flow_.Fits(Height(row)) && row.blank) return;  // parts nothing at the foot of a page
-        const int page = page_geometry::Bottom - page_geometry::Top - HeaderHeight();
-        if (!flow_.Fits(Height(row)) && Height(row) <= page) BreakPage();
-        if (flow_.Fits(Height(row)))
+    bool IsHeaderRepeated() const {
+        return header_ && Height(*header_) < (page_geometry::Bottom - page_geometry::Top) / 2;
+    }
+
+    /// `total` is the height of a line of totals that must not stand on the next page alone.
+    void WriteRow(const RowLayout& row, int total) {
+        const int height = Height(row);
+        if (row.blank && style_.border != GridBorder) return WriteSpacer(height);
+        if (!flow_.Fits(height + total) && height + total <= RoomForRows()) BreakPage();
+        if (flow_.Fits(height))
             Place(row, 0, row.lines);
         else
             WriteByLines(row);
+        sectionOpen_ = true;
     }
 
-    int HeaderHeight() const { return header_ ? Height(*header_) : 0; }
+    /// A spacer parts nothing at the foot of a page.
+    void WriteSpacer(int height) {
+        EndSection(flow_.y + height / 2);
+        if (flow_.Fits(height)) flow_.y += height;
+    }
+
+    /// A section of a comparison ends with a rule.
+    void EndSection(int y) {
+        if (style_.border == ComparisonBorder && sectionOpen_ && y <= page_geometry::Bottom)
+            PlaceRule(y);
+        sectionOpen_ = false;
+    }
+
+    int RoomForRows() const {
+        const int page = page_geometry::Bottom - page_geometry::Top;
+        return IsHeaderRepeated() ? page - Height(*header_) - spaceBelowHeader_ : page;
+    }
 
     /// A row higher than a page: as many lines as each page takes, at least one.
     void WriteByLines(const RowLayout& row) {
@@ -127,14 +171,14 @@ class TableWriter {
             if (style_.border == GridBorder) PlaceFrame(left, columns_[i].width, height);
             left += columns_[i].width;
         }
-        if (style_.border == RuledBorder && !row.blank) PlaceRule(height);
         flow_.y += height;
+        if (style_.border == RuledBorder) PlaceRule(flow_.y);
     }
 
     void PlaceCell(const RowLayout& row, std::size_t column, std::size_t from, std::size_t count,
                    int left) {
         const std::vector<TextLine>& lines = row.cells[column];
-        int top = flow_.y + RowPadding;
+        int top = flow_.y + RowPadding + halfLeading_;
         // Headings of several lines stand on one base line.
         if (row.header) top += static_cast<int>(row.lines - lines.size()) * lineHeight_;
         for (std::size_t i = from; i < std::min(from + count, lines.size()); ++i) {
@@ -161,19 +205,20 @@ class TableWriter {
             BoxItem{left, flow_.y, left + width, flow_.y + height, {}, Rgb{0}, RuleWidth});
     }
 
-    void PlaceRule(int height) {
+    void PlaceRule(int y) {
         const int left = page_geometry::Left + page_geometry::TableInset;
-        const int bottom = flow_.y + height;
         flow_.Current().shapes.push_back(
-            LineItem{left, bottom, left + tableWidth_, bottom, RuleColor, RuleWidth});
+            LineItem{left, y, left + tableWidth_, y, RuleColor, RuleWidth});
     }
 
     PageFlow& flow_;
     const TableStyle& style_;
     std::vector<TableColumn> columns_;
     std::optional<RowLayout> header_;
-    int lineHeight_ = 0;
+    int lineHeight_ = 0, halfLeading_ = 0;  // the room above the text of a widely spaced line
     int tableWidth_ = 0;
+    int spaceBelowHeader_ = 0;
+    bool sectionOpen_ = false;
 };
 
 }  // namespace

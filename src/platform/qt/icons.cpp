@@ -10,6 +10,11 @@
 
 #include "platform/qt/theme.h"
 
+// Must stand outside any namespace.
+static void InitResources() {
+    Q_INIT_RESOURCE(platform_qt);
+}
+
 namespace tendo {
 namespace {
 
@@ -61,11 +66,18 @@ class LineIconEngine : public QIconEngine {
 
 }  // namespace
 
-QPixmap LinePixmap(const QString& name, const QColor& color, int size, double ratio) {
+QByteArray LineDrawing(const QString& name, const QColor& color) {
+    InitResources();  // a program without screens has put no theme in use
     QFile file(FileOf(name));
     if (!file.open(QIODevice::ReadOnly)) return {};
     QByteArray drawing = file.readAll();
     drawing.replace("currentColor", color.name(QColor::HexRgb).toLatin1());
+    return drawing;
+}
+
+QPixmap LinePixmap(const QString& name, const QColor& color, int size, double ratio) {
+    const QByteArray drawing = LineDrawing(name, color);
+    if (drawing.isEmpty()) return {};
     QSvgRenderer renderer(drawing);
     QPixmap pixmap(QSize(size, size) * ratio);
     pixmap.fill(Qt::transparent);

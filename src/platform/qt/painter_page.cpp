@@ -2,7 +2,6 @@
 
 #include <QBuffer>
 #include <QPainter>
-#include <QPixmap>
 #include <QSvgRenderer>
 #include <cmath>
 
@@ -55,8 +54,7 @@ void Paint(QPainter& painter, const PictureItem& picture) {
     const QRectF box = RectOf(picture);
     if (box.isEmpty()) return;
     if (picture.path == ProgramIconPicture) {
-        const QPixmap icon = LinePixmap(QStringLiteral("tendo"), IconColor, 128);
-        painter.drawPixmap(box, icon, QRectF(icon.rect()));
+        QSvgRenderer(LineDrawing(QStringLiteral("tendo"), IconColor)).render(&painter, box);
         return;
     }
     const QString path = QString::fromStdString(picture.path);

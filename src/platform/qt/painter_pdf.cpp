@@ -7,12 +7,31 @@
 #include "platform/files/safe_file.h"
 #include "platform/qt/painter_page.h"
 #include "platform/qt/painter_pdf_outline.h"
+#include "platform/text/date_text.h"
 
 namespace tendo {
 
 namespace {
 
 constexpr int TwipsPerInch = 1440;
+constexpr QByteArrayView DateKey = "/CreationDate (D:";
+
+/// The date as a PDF writes it, "20260504093000".
+QByteArray PdfDate(const DateTime& date) {
+    std::string text = IsoText(date);
+    std::erase_if(text, [](char character) { return character < '0' || character > '9'; });
+    text.resize(14, '0');
+    return QByteArray::fromStdString(text);
+}
+
+/// The writer takes the machine's clock. The program's own stands in its place, so that a fixed day
+/// gives the same file each time.
+void StampDate(QByteArray& pdf, const DateTime& date) {
+    const qsizetype at = pdf.indexOf(DateKey);
+    const QByteArray text = PdfDate(date);
+    if (at >= 0 && at + DateKey.size() + text.size() <= pdf.size())
+        pdf.replace(at + DateKey.size(), text.size(), text);
+}
 
 void PaintPages(QPdfWriter& writer, const Document& document) {
     QPainter painter(&writer);
@@ -37,6 +56,7 @@ std::string PdfBytes(const Document& document) {
         writer.setCreator(QStringLiteral("TENDO"));
         PaintPages(writer, document);
     }
+    StampDate(bytes, Now());
     return WithPdfOutline(bytes.toStdString(), document);
 }
 
