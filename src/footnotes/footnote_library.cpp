@@ -22,33 +22,21 @@ std::string Criterion(std::string_view name) {
     return std::string(NameField) + " Like '" + std::string(name) + "'";
 }
 
+/// The rows of a name. Names that differ in case are one to the criterion: the recordset stands on
+/// the row that has the name to the letter, if there is one.
 Recordset RowsOf(Database& library, std::string_view name) {
-    return library.OpenRecordset("Select * from [FootNotes] where [FootNoteName] = '" +
-                                 std::string(name) + "'");
+    Recordset rows = library.OpenRecordset("Select * from [FootNotes] where [FootNoteName] = '" +
+                                           std::string(name) + "'");
+    while (!rows.EOF_() && rows.Text(NameField) != name)
+        rows.MoveNext();
+    if (rows.EOF_() && !rows.BOF()) rows.MoveFirst();
+    return rows;
 }
 
 void SetText(Recordset& rows, std::string_view field, std::string_view text) {
     rows.Edit();
     rows.Set(field, std::string(text));
     rows.Update();
-}
-
-/// A name that may stand in the library, before other names are looked at.
-std::string PermittedName(std::string_view wanted, std::vector<std::string>& messages) {
-    const std::string name(Trimmed(wanted));
-    if (name.find('\'') != std::string::npos) {
-        messages.emplace_back(
-            "Footnote Names cannot have the character ' in them.  The Foot Note Name has been "
-            "changed to TENDO FOOTNOTE.");
-        return std::string(SpareName);
-    }
-    if (name.empty()) {
-        messages.emplace_back(
-            "You have not entered a Footnote name.  The Footnote Name has been changed to TENDO "
-            "FOOTNOTE.");
-        return std::string(SpareName);
-    }
-    return name;
 }
 
 /// The first number that makes the name another one; 0 when the name stands only once.
@@ -65,8 +53,7 @@ int NumberBehind(Recordset& rows, const std::string& name) {
 
 /// The rule for the name of a row that stands in the library already.
 StoredFootnoteName RenameOnCollision(Database& library, std::int64_t row, std::string_view wanted) {
-    StoredFootnoteName stored;
-    stored.name = PermittedName(wanted, stored.messages);
+    StoredFootnoteName stored = PermittedFootnoteName(wanted);
     Recordset rows = library.OpenRecordset(Table);
     rows.SetBookmark(row);
     SetText(rows, NameField, stored.name);
@@ -123,8 +110,21 @@ void RenameLibraryFootnote(std::string_view name, std::string_view newName) {
 void DeleteLibraryFootnote(std::string_view name) {
     Database library = OpenLibrary();
     for (Recordset rows = library.OpenRecordset(Table); !rows.EOF_(); rows.MoveNext())
-        if (Trimmed(rows.Text(NameField)) == name) rows.Delete();
+        if (Trimmed(rows.Text(NameField)) == Trimmed(name)) rows.Delete();
     library.Close();
+}
+
+StoredFootnoteName PermittedFootnoteName(std::string_view wanted) {
+    const std::string name(Trimmed(wanted));
+    if (name.find('\'') != std::string::npos)
+        return {std::string(SpareName),
+                {"Footnote Names cannot have the character ' in them.  The Foot Note Name has been "
+                 "changed to TENDO FOOTNOTE."}};
+    if (name.empty())
+        return {std::string(SpareName),
+                {"You have not entered a Footnote name.  The Footnote Name has been changed to "
+                 "TENDO FOOTNOTE."}};
+    return {name, {}};
 }
 
 StoredFootnoteName AddLibraryFootnote(std::string_view name, std::string_view text) {

@@ -35,6 +35,10 @@ struct StoredFootnoteName {
     std::vector<std::string> messages;
 };
 
+/// A name that may stand in the library or a project, before other names are looked at: trimmed,
+/// without an apostrophe, and not blank.
+StoredFootnoteName PermittedFootnoteName(std::string_view wanted);
+
 /// Adds a footnote; its name follows the rule for new names: no apostrophe, not blank, and with a
 /// number behind it when the library has it already.
 StoredFootnoteName AddLibraryFootnote(std::string_view name, std::string_view text);

@@ -113,7 +113,8 @@ struct FormatField {
 };
 
 std::vector<FormatField> FieldsOf(ReportOptionValues& values) {
-    std::vector<FormatField> fields;
+    // Both columns of the operating cost are filled; the second one is that which counts.
+    std::vector<FormatField> fields = {{"OpCostforSystem", &values.Mark("chkSelectedOpCost")}};
     const auto options = ReportOptionTable();
     for (std::size_t i = 0; i < options.size(); ++i)
         if (options[i].column) fields.push_back({options[i].column, &values.marks[i]});
@@ -149,6 +150,14 @@ void ReadField(const Recordset& rows, const FormatField& field) {
         **color = rows.Long(field.column);
     else
         *std::get<std::int16_t*>(field.value) = rows.Integer(field.column);
+}
+
+/// A store made elsewhere may lack columns that are saved: it gets them.
+void AddMissingColumns(Database& formats) {
+    const jet::TableDefinition wanted = TableOf(FormatTable, Columns);
+    const Recordset rows = formats.OpenRecordset(FormatTable);
+    for (const jet::Column& column : wanted.columns)
+        if (!rows.HasField(column.name)) formats.AppendField(FormatTable, column);
 }
 
 bool Walk(Recordset& rows, std::string_view name) {
@@ -202,6 +211,7 @@ std::vector<std::string> ProposalFormatNames() {
 bool SaveProposalFormat(std::string_view name, ReportOptionValues& values, FootnoteList footnotes) {
     if (!FileExists(ProposalFormatFile())) return false;
     Database formats = Database::OpenDatabase(ProposalFormatFile());
+    AddMissingColumns(formats);
     Recordset rows = formats.OpenRecordset(FormatTable);
     if (Walk(rows, name))
         rows.Edit();
@@ -231,12 +241,13 @@ bool LoadProposalFormat(std::string_view name, ReportOptionValues& values, Footn
     return true;
 }
 
-void DeleteProposalFormat(std::string_view name) {
-    if (!FileExists(ProposalFormatFile())) return;
+bool DeleteProposalFormat(std::string_view name) {
+    if (!FileExists(ProposalFormatFile())) return false;
     Database formats = Database::OpenDatabase(ProposalFormatFile());
     DeleteRows(formats, FormatTable, name);
     DeleteRows(formats, FootnoteTable, name);
     formats.Close();
+    return true;
 }
 
 }  // namespace tendo

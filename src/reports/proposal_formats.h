@@ -34,6 +34,7 @@ bool SaveProposalFormat(std::string_view name, ReportOptionValues& values, Footn
 /// the name; both are then left as they were.
 bool LoadProposalFormat(std::string_view name, ReportOptionValues& values, FootnoteList footnotes);
 
-void DeleteProposalFormat(std::string_view name);
+/// Deletes a format with its footnotes. False without the database.
+bool DeleteProposalFormat(std::string_view name);
 
 }  // namespace tendo

@@ -16,14 +16,16 @@ using enum OptionFrame;
 
 /// A mark is kept under its control's name; the few that aren't say so.
 constexpr ReportOption Options[] = {
-    {Reports, "chkPrintTitleReport", "Title Page", "chkPrintTitleReport", "PrintTitleReport"},
-    {Reports, "chkPrintSalesReport", "Sales Report", "chkPrintSalesReport", "PrintSalesReport"},
-    {Reports, "chkPrintOptionalAccessoriesRpt", "Optional Accessories Report",
+    {Reports, "chkPrintTitleReport", "Print Title Page Report", "chkPrintTitleReport",
+     "PrintTitleReport"},
+    {Reports, "chkPrintSalesReport", "Print Sales Report", "chkPrintSalesReport",
+     "PrintSalesReport"},
+    {Reports, "chkPrintOptionalAccessoriesRpt", "Print Optional Accessories Report",
      "chkPrintOptionalAccessoriesRpt", "PrintOptionalAccessoriesReport"},
-    {Reports, "chkPrintDetailedCostReport", "Detailed Cost Report", "chkPrintDetailedCostReport",
-     "PrintDetailedCostReport"},
+    {Reports, "chkPrintDetailedCostReport", "Print Detailed Cost Report",
+     "chkPrintDetailedCostReport", "PrintDetailedCostReport"},
     {Reports, "chkShowDealersCost", "Show Dealer's Cost", "chkShowDealersCost", "ShowDealersCost"},
-    {Reports, "chkPrintInstallersReport", "Installer's Report", "chkPrintInstallersReport",
+    {Reports, "chkPrintInstallersReport", "Print Installer's Report", "chkPrintInstallersReport",
      "PrintInstallersReport"},
 
     {ProjectSummary, "chkClientFax", "Client Fax Number", "ClientFax", "ClientFaxNumber"},
@@ -139,7 +141,7 @@ ReportOptionValues LoadReportOptions(const ProjectRecords& project) {
             values.marks[i] = Ini().MyGetAppProfileInteger(Section, KeyToRead(Options[i]), 1);
     values.Mark("chkClientComment") = project.GPDClientFormat.ClientPrintComment;
     values.Mark("chkCompComment") = project.GPDCompanyFormat.CompanyPrintComment;
-    values.logoFile = Ini().MyGetAppProfileString(Section, "txtTitlePageLogo", "");
+    values.logoFile = Ini().MyGetAppProfileString(Section, "txtTitlePageLogo", StandardLogo());
     values.bannerFile = Ini().MyGetAppProfileString(Section, "txtBannerFile", "");
     values.startingPage = Ini().MyGetAppProfileInteger(Section, "txtStartingPageNo", 1);
     values.lineSpacing = Ini().MyGetAppProfileInteger(Section, "txtLineSpacing", 100);

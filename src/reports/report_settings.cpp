@@ -5,7 +5,9 @@
 #include <vector>
 
 #include "platform/files/ini_file_handler.h"
+#include "platform/files/paths.h"
 #include "platform/files/profile.h"
+#include "project/program_state.h"
 
 namespace tendo {
 
@@ -97,6 +99,13 @@ void WriteOwner(const OwnerRecord& owner) {
         values.emplace_back(entry.key, owner.*entry.text);
     WriteProfileSection(Ini().AppProfileFileName, OwnerSection, values);
     Owner() = owner;
+}
+
+std::string StandardLogo() {
+    const std::string stem = State().ProgramDirectory + "tenlogo";
+    for (const char* extension : {".wmf", ".svg", ".png"})
+        if (FileExists(stem + extension)) return stem + extension;
+    return {};
 }
 
 bool ReportOptionIsOn(const char* key) {

@@ -45,6 +45,9 @@ void ReadOwner();
 /// Stores the five texts and puts them in force.
 void WriteOwner(const OwnerRecord& owner);
 
+/// The program's own logo, in the form that lies in the program directory; empty without one.
+std::string StandardLogo();
+
 /// True when the option of section "ReportOptions" is 1, which is also its default.
 bool ReportOptionIsOn(const char* key);
 

@@ -33,14 +33,6 @@ LogoBox BoxOfLogo(const std::string& file) {
     return {100, 600 - height / 2.0, 700, 600 + height / 2.0};
 }
 
-/// The program's own logo, in the form that lies in the program directory.
-std::string StandardLogo() {
-    const std::string stem = State().ProgramDirectory + "tenlogo";
-    for (const char* extension : {".wmf", ".svg", ".png"})
-        if (FileExists(stem + extension)) return stem + extension;
-    return {};
-}
-
 /// The logo that is to be printed; empty for none.
 std::string LogoFile() {
     if (!ReportOptionIsOn("chkPrintLogo")) return {};

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 
 #include "../files/test_folder.h"
 #include "footnotes/project_footnotes.h"
@@ -43,6 +44,15 @@ class FootnoteLibrary : public TestFolder {
         TestFolder::TearDown();
     }
 };
+
+int ErrorOf(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const RuntimeError& error) {
+        return error.Number();
+    }
+    return 0;
+}
 
 TEST_F(FootnoteLibrary, ANewFootnoteKeepsAFreeName) {
     const StoredFootnoteName stored = AddLibraryFootnote(" Warranty ", "{\\rtf1 text}");
@@ -107,6 +117,63 @@ TEST_F(FootnoteLibrary, AFinishedFootnoteThatKeepsItsNameIsNoDuplicate) {
     EXPECT_TRUE(FinishLibraryFootnote("New Footnote", "New Footnote", "t").messages.empty());
 }
 
+TEST_F(FootnoteLibrary, AFreedNumberIsGivenAgain) {
+    for (int i = 0; i < 3; ++i)
+        AddLibraryFootnote("n", "");
+    DeleteLibraryFootnote("n2");
+    EXPECT_EQ(AddLibraryFootnote("n", "").name, "n2");
+}
+
+// Names stand as patterns in the search for their like: * is any text, ? one character, # a digit.
+TEST_F(FootnoteLibrary, ANameOfAnyTextIsTakenForEveryOther) {
+    AddLibraryFootnote("a", "");
+    EXPECT_EQ(AddLibraryFootnote("*", "").name, "*2");
+    AddLibraryFootnote("ab", "");
+    EXPECT_EQ(AddLibraryFootnote("a?", "").name, "a?2");
+}
+
+TEST_F(FootnoteLibrary, ANameWithADigitSignIsNotFoundByItself) {
+    AddLibraryFootnote("Lot #", "");
+    EXPECT_TRUE(AddLibraryFootnote("Lot #", "").messages.empty());
+    EXPECT_EQ(LibraryFootnoteNames(), (Names{"Lot #", "Lot #"}));
+}
+
+TEST_F(FootnoteLibrary, ANameWithAnOpenBracketIsRefusedByTheEngineAndNothingIsStored) {
+    EXPECT_NE(ErrorOf([] { AddLibraryFootnote("[draft", ""); }), 0);
+    EXPECT_EQ(LibraryFootnoteNames(), Names{});
+    EXPECT_EQ(AddLibraryFootnote("[draft] terms", "").name, "[draft] terms");
+}
+
+TEST_F(FootnoteLibrary, NamesTakeUpTo255Characters) {
+    const std::string longest(255, 'x');
+    EXPECT_EQ(AddLibraryFootnote(longest, "t").name, longest);
+    EXPECT_EQ(LibraryFootnoteText(longest), "t");
+    // The number of a second one would be the 256th character.
+    EXPECT_EQ(ErrorOf([&] { AddLibraryFootnote(longest, ""); }), error_number::FieldTooSmall);
+    EXPECT_EQ(ErrorOf([] { AddLibraryFootnote(std::string(300, 'y'), ""); }),
+              error_number::FieldTooSmall);
+    EXPECT_EQ(LibraryFootnoteNames(), Names{longest});
+}
+
+TEST_F(FootnoteLibrary, OfTwoNamesThatDifferInCaseEachHasItsOwnText) {
+    AddLibraryFootnote("Terms", "one");
+    AddLibraryFootnote("other", "two");
+    RenameLibraryFootnote("other", "TERMS");
+    EXPECT_EQ(LibraryFootnoteText("Terms"), "one");
+    EXPECT_EQ(LibraryFootnoteText("TERMS"), "two");
+    EXPECT_EQ(LibraryFootnoteText("terms"), "one");
+    StoreLibraryFootnoteText("TERMS", "three");
+    EXPECT_EQ(LibraryFootnoteText("Terms"), "one");
+    DeleteLibraryFootnote("TERMS");
+    EXPECT_EQ(LibraryFootnoteNames(), Names{"Terms"});
+}
+
+TEST_F(FootnoteLibrary, ATextOfTenMegabytesIsKeptToTheLetter) {
+    const std::string text = "{\\rtf1 " + std::string(10'000'000, 'x') + "}";
+    AddLibraryFootnote("long", text);
+    EXPECT_TRUE(LibraryFootnoteText("long") == text);
+}
+
 TEST_F(FootnoteLibrary, DeletingTakesDuplicatesToo) {
     AddLibraryFootnote("a", "");
     AddLibraryFootnote("b", "");
@@ -139,15 +206,6 @@ TEST_F(FootnoteLibrary, NamesAreFoundExactlyWhenARenameAsks) {
     EXPECT_TRUE(LibraryHasFootnote("Terms"));
     EXPECT_FALSE(LibraryHasFootnote("terms"));
     EXPECT_FALSE(LibraryHasFootnote(""));
-}
-
-int ErrorOf(void (*work)()) {
-    try {
-        work();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
 }
 
 TEST_F(FootnoteLibrary, AMissingFileOrTableIsTheEnginesError) {

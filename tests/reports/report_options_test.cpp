@@ -121,6 +121,16 @@ TEST_F(ReportOptions, TheSalesReportIsMarkedAgainWheneverTheScreenOpens) {
     EXPECT_EQ(loaded.Mark("chkPrintTitleReport"), 0);
 }
 
+TEST_F(ReportOptions, TheTitlePagesPictureIsTheProgramsOwnAtFirst) {
+    EXPECT_EQ(LoadReportOptions(project).logoFile, "");
+    Put("tenlogo.svg", "<svg/>");
+    EXPECT_EQ(LoadReportOptions(project).logoFile, Path("tenlogo.svg"));
+    Put("tenlogo.wmf", "");
+    EXPECT_EQ(LoadReportOptions(project).logoFile, Path("tenlogo.wmf"));
+    Store("txtTitlePageLogo", "");
+    EXPECT_EQ(LoadReportOptions(project).logoFile, "");
+}
+
 TEST_F(ReportOptions, KeysOfTheSummaryHaveTheirOwnNames) {
     Store("ClientFax", "0");
     Store("CompanyRep", "0");
@@ -193,6 +203,65 @@ TEST_F(ProposalFormats, AFormatKeepsAllOptionsAndFootnotes) {
     EXPECT_EQ(list.rows[1].Description, "{\\rtf1 b}");
 }
 
+std::int16_t StoredColumn(const char* column) {
+    Database formats = Database::OpenDatabase(ProposalFormatFile());
+    return formats.OpenRecordset("ProposalFormats").Integer(column);
+}
+
+TEST_F(ProposalFormats, TheOperatingCostFillsBothOfItsColumns) {
+    values.Mark("chkSelectedOpCost") = 0;
+    SaveProposalFormat("Ours", values, list);
+    EXPECT_EQ(StoredColumn("OpCostforSystem"), 0);
+    EXPECT_EQ(StoredColumn("SelectedOpCost"), 0);
+    EXPECT_EQ(StoredColumn("PrintGraphs"), 1);
+    values.Mark("chkSelectedOpCost") = 1;
+    SaveProposalFormat("Ours", values, list);
+    EXPECT_EQ(StoredColumn("OpCostforSystem"), 1);
+    EXPECT_EQ(StoredColumn("SelectedOpCost"), 1);
+}
+
+/// A store with the name of a format, the operating cost under its designed name, and no more.
+void MakeSparseFormats() {
+    jet::TableDefinition table;
+    table.name = "ProposalFormats";
+    jet::Column& name = table.columns.emplace_back();
+    name.name = "FormatName";
+    name.size = 255;
+    jet::Column& cost = table.columns.emplace_back();
+    cost.name = "OpCostforSystem";
+    cost.type = jet::ColumnType::Integer;
+    Database formats = Database::OpenDatabase(ProposalFormatFile());
+    formats.DeleteTable("ProposalFormats");
+    formats.AppendTable(table);
+    Recordset rows = formats.OpenRecordset("ProposalFormats");
+    rows.AddNew();
+    rows.Set("FormatName", std::string("Sparse"));
+    rows.Set("OpCostforSystem", std::int64_t{0});
+    rows.Update();
+    formats.Close();
+}
+
+TEST_F(ProposalFormats, AStoreThatLacksColumnsIsReadAndGetsThemWhenAFormatIsSaved) {
+    MakeSparseFormats();
+    EXPECT_TRUE(LoadProposalFormat("Sparse", values, list));
+    EXPECT_EQ(values.Mark("chkSelectedOpCost"), 0);
+    EXPECT_EQ(values.Mark("chkGraphs"), 1);
+    values.Mark("chkGraphs") = 0;
+    values.logoFile = "logo.png";
+    EXPECT_TRUE(SaveProposalFormat("Sparse", values, list));
+    ReportOptionValues loaded;
+    EXPECT_TRUE(LoadProposalFormat("Sparse", loaded, list));
+    EXPECT_EQ(loaded.marks, values.marks);
+    EXPECT_EQ(loaded.logoFile, "logo.png");
+}
+
+TEST_F(ProposalFormats, NamesThatDifferInCaseAreTwoFormats) {
+    SaveProposalFormat("ours", values, list);
+    SaveProposalFormat("Ours", values, list);
+    DeleteProposalFormat("ours");
+    EXPECT_EQ(ProposalFormatNames(), Names{"Ours"});
+}
+
 TEST_F(ProposalFormats, SavingUnderAnExistingNameReplacesIt) {
     AddFootnote(list, "one", "");
     SaveProposalFormat("Ours", values, list);
@@ -257,7 +326,7 @@ TEST_F(ReportOptions, WithoutTheDatabaseOfFormatsNothingHappens) {
     FootnoteList list = ProposalFootnotes(project);
     EXPECT_FALSE(SaveProposalFormat("A", values, list));
     EXPECT_FALSE(LoadProposalFormat("A", values, list));
-    DeleteProposalFormat("A");
+    EXPECT_FALSE(DeleteProposalFormat("A"));
     EXPECT_TRUE(ProposalFormatNames().empty());
     EXPECT_EQ(EntryCount(), 0);
 }

@@ -61,13 +61,15 @@ bool IsAligned(const RichEditor& editor) {
 /// In their order, in two lines; a null name parts groups.
 const EditTool fontTools[] = {
     {"ToolBold", "bold", "Bold", "Ctrl+B",
-     [](EditBar&, RichEditor& editor, bool on) { editor.SetBold(on); },
+     [](EditBar&, RichEditor& editor, bool on) {
+         editor.setFontWeight(on ? QFont::Bold : QFont::Normal);
+     },
      [](const RichEditor& editor) { return editor.fontWeight() >= QFont::DemiBold; }},
     {"ToolItalics", "italic", "Italics", "Ctrl+I",
-     [](EditBar&, RichEditor& editor, bool on) { editor.SetItalic(on); },
+     [](EditBar&, RichEditor& editor, bool on) { editor.setFontItalic(on); },
      [](const RichEditor& editor) { return editor.fontItalic(); }},
     {"ToolUnderline", "underline", "Underline", "Ctrl+U",
-     [](EditBar&, RichEditor& editor, bool on) { editor.SetUnderline(on); },
+     [](EditBar&, RichEditor& editor, bool on) { editor.setFontUnderline(on); },
      [](const RichEditor& editor) { return editor.fontUnderline(); }},
     {"ToolColor", "text-color", "Color of the text", "",
      [](EditBar& bar, RichEditor&, bool) { bar.PickColor(); }},
@@ -123,6 +125,8 @@ EditBar::EditBar(RichEditor* editor, QWidget* parent, const QString& whose)
     connect(&timer_, &QTimer::timeout, this, &EditBar::ShowState);
     connect(editor_, &QTextEdit::cursorPositionChanged, this, &EditBar::ShowState);
     connect(editor_, &QTextEdit::currentCharFormatChanged, this, &EditBar::ShowState);
+    connect(editor_, &RichEditor::FileDropped, this,
+            [this](const QString& file) { ImportFile(file.toStdString()); });
     timer_.start();
     ShowState();
 }
@@ -201,7 +205,7 @@ void EditBar::ShowState() {
 }
 
 void EditBar::SetFont() {
-    editor_->SetFamily(fonts_->currentText());
+    editor_->setFontFamily(fonts_->currentText());
     editor_->setFocus();
 }
 
@@ -211,14 +215,14 @@ void EditBar::SetFontSize() {
     const double points = sizes_->currentText().trimmed().toDouble(&number);
     if (number && points >= 1 && points <= LargestSize &&
         points != RunFormatOf(editor_->currentCharFormat()).font.sizeTwips / 20.0)
-        editor_->SetPointSize(points);
+        editor_->setFontPointSize(points);
     sizes_->setEditText(
         QString::number(RunFormatOf(editor_->currentCharFormat()).font.sizeTwips / 20.0));
 }
 
 void EditBar::PickColor() {
     const auto color = Dialogs().Color({"Color", RunFormatOf(editor_->currentCharFormat()).color});
-    if (color) editor_->SetColor(QColor::fromRgb(*color));
+    if (color) editor_->setTextColor(QColor::fromRgb(*color));
 }
 
 void EditBar::Insert(std::string_view token) {
@@ -235,15 +239,17 @@ void EditBar::ImportTextFile() {
                                         .folder = "",
                                         .defaultExtension = ""})
                                  .value_or(NoFile);
-    if (file == NoFile || file.empty()) return;
+    if (file != NoFile && !file.empty()) ImportFile(file);
+}
+
+void EditBar::ImportFile(const std::string& file) {
     if (Ask("TENDO",
             "Opening this file will overwrite this footnote.  Are you sure you want to do this?",
             Buttons::YesNo) != Answer::Yes)
         return;
     try {
         const Hourglass pointer;
-        editor_->ShowText(ReadFootnoteFile(file));
-        editor_->SetEdited(true);
+        editor_->ReplaceText(ReadFootnoteFile(file));
     } catch (const RuntimeError& error) {
         ShowMessage("Import Text File", error.Description(), MessageIcon::Warning);
     }

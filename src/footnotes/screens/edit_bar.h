@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <span>
+#include <string>
 #include <string_view>
 
 class QComboBox;
@@ -27,6 +28,7 @@ class EditBar : public QWidget {
 
     // What tools do that takes more than a call of the editor.
     void ImportTextFile();
+    void ImportFile(const std::string& file);
     void PickColor();
     void Insert(std::string_view token);
 

@@ -4,10 +4,11 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "footnotes/footnote_library.h"
 #include "platform/qt/dialogs.h"
-#include "platform/qt/form.h"
 #include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
+#include "project/project_records.h"
 
 namespace tendo {
 
@@ -21,28 +22,44 @@ bool RunFootnoteCommand(const std::function<void()>& command) {
     }
 }
 
-std::string AskFootnoteName() {
+FootnoteList ListOf(FootnoteMode mode) {
+    return mode == FootnoteMode::AccRpt ? AccessoryFootnotes(Project())
+                                        : ProposalFootnotes(Project());
+}
+
+bool AddFromLibrary(FootnoteMode mode, const std::string& name) {
+    return RunFootnoteCommand([&] {
+        const std::string text = LibraryFootnoteText(name);
+        ChangeFootnotes(mode, [&] { AddFootnote(ListOf(mode), name, text); });
+    });
+}
+
+std::string AskFootnoteName(const std::string& before) {
     std::string name =
         Dialogs()
-            .Input({"Footnote Name", "Please enter a new name for the footnote.", ""})
+            .Input({"Footnote Name", "Please enter a new name for the footnote.", before})
             .value_or("");
     while (name.find('\'') != std::string::npos)
         name = Dialogs()
                    .Input({"Please choose another Footnote Name",
                            "Footnote Names cannot have the character ' in them.  Please choose "
                            "another name.",
-                           ""})
+                           name})
                    .value_or("");
     return std::string(Trimmed(name));
 }
 
+/// Rows that stay are left in place: the list may be in the middle of a click.
 void FillFootnoteList(QListWidget* list, const std::vector<std::string>& names) {
-    const int row = list->currentRow();
+    const int rows = static_cast<int>(names.size()), row = list->currentRow();
     const QSignalBlocker quiet(list);
-    list->clear();
-    for (const std::string& name : names)
-        list->addItem(QString::fromStdString(name));
-    list->setCurrentRow(std::min(row, list->count() - 1));
+    while (list->count() > rows)
+        delete list->takeItem(list->count() - 1);
+    while (list->count() < rows)
+        list->addItem(QString());
+    for (int i = 0; i < rows; ++i)
+        list->item(i)->setText(QString::fromStdString(names[static_cast<std::size_t>(i)]));
+    list->setCurrentRow(std::min(row, rows - 1));
 }
 
 std::vector<std::string> NamesOf(FootnoteList list) {
@@ -56,14 +73,12 @@ std::string ChosenName(const QListWidget* list) {
     return list->currentItem() ? list->currentItem()->text().toStdString() : "";
 }
 
-QListWidget* MakeFootnoteList(const QString& name, const QString& accessibleName, QWidget* parent) {
-    auto* list = new QListWidget(parent);
+void PrepareFootnoteList(QListWidget* list, const QString& name, const QString& accessibleName) {
     list->setObjectName(name);
     list->setAccessibleName(accessibleName);
     list->setProperty("roomy", true);
     list->setUniformItemSizes(true);
     list->setMinimumHeight(90);
-    return list;
 }
 
 QPushButton* MakeFootnoteButton(const QString& name, const QString& text, QWidget* parent,

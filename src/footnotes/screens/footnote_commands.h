@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "footnotes/project_footnotes.h"
+#include "footnotes/screens/footnote_changes.h"
 
 class QListWidget;
 class QPushButton;
@@ -18,8 +19,16 @@ namespace tendo {
 /// Runs a command; the database engine's error is shown and the lists stay as they are. False then.
 bool RunFootnoteCommand(const std::function<void()>& command);
 
-/// Asks for a footnote's name until it has no apostrophe; empty when the user gave none.
-std::string AskFootnoteName();
+/// The project's list of a mode.
+FootnoteList ListOf(FootnoteMode mode);
+
+/// A copy of the library's footnote becomes the last one of a project's list. False, after a
+/// message, when the library can't be read.
+bool AddFromLibrary(FootnoteMode mode, const std::string& name);
+
+/// Asks for a footnote's name, with the one it has to start from, until it has no apostrophe; empty
+/// when the user gave none.
+std::string AskFootnoteName(const std::string& before);
 
 /// A list of names, each in its row, with the row kept current where it still exists.
 void FillFootnoteList(QListWidget* list, const std::vector<std::string>& names);
@@ -28,7 +37,8 @@ std::vector<std::string> NamesOf(FootnoteList list);
 /// The name in the current row of a list; empty without one.
 std::string ChosenName(const QListWidget* list);
 
-QListWidget* MakeFootnoteList(const QString& name, const QString& accessibleName, QWidget* parent);
+/// What lists of footnotes have in common.
+void PrepareFootnoteList(QListWidget* list, const QString& name, const QString& accessibleName);
 QPushButton* MakeFootnoteButton(const QString& name, const QString& text, QWidget* parent,
                                 std::function<void()> run);
 

@@ -1,18 +1,17 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <functional>
-#include <optional>
 
-#include "footnotes/project_footnotes.h"
-#include "footnotes/screens/frm_footnote_new.h"
+#include "footnotes/screens/footnote_changes.h"
 
-class QListWidget;
 class QVBoxLayout;
 
 namespace tendo {
 
-class RichEditor;
+class FootnoteText;
+class ProjectFootnoteList;
 
 /// Names of the controls of one of the two footnote lists of the report options.
 struct FootnotePageNames {
@@ -28,29 +27,25 @@ class FootnotePage : public QWidget {
     /// `mode` tells which list it is.
     FootnotePage(FootnoteMode mode, const FootnotePageNames& names, QWidget* parent);
 
-    /// Shows the list as it is now; an edited text is dropped.
-    void Refill();
     /// Puts an edited text into its footnote.
     void StoreText();
 
-    /// Runs after every change of the list.
+    /// Runs after every change of the list or of a text in it.
     std::function<void()> Changed;
 
   private:
-    void AddButtons(QVBoxLayout* column, const FootnotePageNames& names);
-    FootnoteList List() const;
-    std::optional<std::size_t> Row() const;
-    void ShowChosen();
-    void ListChanged();
+    void AddButtons(QVBoxLayout* column);
+    void EnableButtons();
     void AddFromDatabase();
     void AddNew();
-    void Remove();
-    void Move(bool up);
+    /// What is typed reaches the list when the keys rest.
+    void WatchTyping();
 
     FootnoteMode mode_;
-    QListWidget* list_ = nullptr;
-    RichEditor* editor_ = nullptr;
-    std::optional<std::size_t> shown_;
+    const FootnotePageNames& names_;
+    ProjectFootnoteList* list_ = nullptr;
+    FootnoteText* text_ = nullptr;
+    QTimer typing_;
 };
 
 }  // namespace tendo

@@ -12,7 +12,7 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
 #include "platform/qt/rich_editor.h"
-#include "project/program_state.h"
+#include "project/project_records.h"
 
 namespace tendo {
 namespace {
@@ -22,8 +22,10 @@ constexpr FieldSpec NameField = {.name = "txtNewFootNoteName", .label = "&Name",
 
 }  // namespace
 
-frmFootnoteNew::frmFootnoteNew(FootnoteMode mode)
-    : Form("frmFootnoteNew", "New FootNote", Place::Dialog, "frmFootnoteNew"), mode_(mode) {
+frmFootnoteNew::frmFootnoteNew(FootnoteMode mode, std::optional<std::string>& stored)
+    : Form("frmFootnoteNew", "New FootNote", Place::Dialog, "frmFootnoteNew"),
+      mode_(mode),
+      stored_(stored) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 16, 16, 16);
     column->setSpacing(8);
@@ -50,10 +52,7 @@ void frmFootnoteNew::AddButtons(QVBoxLayout* column) {
     QPushButton* ok = MakeFootnoteButton("btnOk", "&OK", this, [this] { Unload(); });
     ok->setProperty("primary", true);
     row->addWidget(ok);
-    row->addWidget(MakeFootnoteButton("btnCancel", "&Cancel", this, [this] {
-        cancelled_ = true;
-        Unload();
-    }));
+    row->addWidget(MakeFootnoteButton("btnCancel", "&Cancel", this, [this] { Cancel(); }));
     column->addLayout(row);
 }
 
@@ -67,54 +66,79 @@ void frmFootnoteNew::AddDraft() {
     });
 }
 
-/// A name with an apostrophe keeps the screen open, so that nothing written is lost.
+void frmFootnoteNew::Cancel() {
+    cancelled_ = true;
+    Unload();
+}
+
 bool frmFootnoteNew::QueryUnload() {
-    if (cancelled_ || mode_ == FootnoteMode::Database || !name_->text().contains('\'')) return true;
-    ShowMessage("TENDO",
-                "Foot Note Names cannot have the character ' in them.  Please choose another "
-                "name.");
-    name_->setFocus();
-    return false;
+    if (cancelled_) return MayDiscard();
+    return mode_ == FootnoteMode::Database ? StoreInLibrary() : StoreInProject();
 }
 
 void frmFootnoteNew::FormUnload() {
-    if (mode_ != FootnoteMode::Database) {
-        if (!cancelled_) StoreInProject();
-    } else if (!draft_.empty()) {
-        RunFootnoteCommand(
-            [this] { cancelled_ ? DeleteLibraryFootnote(draft_) : StoreInLibrary(); });
+    if (cancelled_ && !draft_.empty())
+        RunFootnoteCommand([this] { DeleteLibraryFootnote(draft_); });
+}
+
+bool frmFootnoteNew::MayDiscard() {
+    const bool written = editor_->IsEdited() && !editor_->document()->isEmpty();
+    cancelled_ = !written || Ask("TENDO", "Do you want to discard this footnote?",
+                                 Buttons::YesNo) == Answer::Yes;
+    return cancelled_;
+}
+
+/// When there was no place for a draft, the library may be there by now.
+bool frmFootnoteNew::StoreInLibrary() {
+    const std::string name = name_->text().toStdString(), text = editor_->Text();
+    StoredFootnoteName stored;
+    if (!RunFootnoteCommand([&] {
+            stored = draft_.empty() ? AddLibraryFootnote(name, text)
+                                    : FinishLibraryFootnote(draft_, name, text);
+        }))
+        return false;
+    ShowMessages(stored.messages);
+    stored_ = stored.name;
+    return true;
+}
+
+bool frmFootnoteNew::StoreInProject() {
+    if (name_->text().contains('\'')) {
+        ShowMessage("TENDO",
+                    "Foot Note Names cannot have the character ' in them.  Please choose another "
+                    "name.");
+        name_->setFocus();
+        return false;
     }
-}
-
-void frmFootnoteNew::StoreInLibrary() {
-    ShowMessages(
-        FinishLibraryFootnote(draft_, name_->text().toStdString(), editor_->Text()).messages);
-}
-
-void frmFootnoteNew::StoreInProject() {
-    const std::string name = name_->text().trimmed().toStdString();
+    const StoredFootnoteName permitted = PermittedFootnoteName(name_->text().toStdString());
     const std::string text = editor_->Text();
-    const bool added = RunFootnoteCommand([&] { AddFootnote(ListOf(mode_), name, text); });
-    if (!added) return;
-    State().ProjectChanged = true;
+    if (!RunFootnoteCommand([&] {
+            ChangeFootnotes(mode_, [&] { AddFootnote(ListOf(mode_), permitted.name, text); });
+        }))
+        return false;
+    stored_ = permitted.name;
+    ShowMessages(permitted.messages);
+    OfferToLibrary(permitted.name, text);
+    return true;
+}
+
+void frmFootnoteNew::OfferToLibrary(const std::string& name, const std::string& text) {
     if (Ask("TENDO", "Do you want to add this footnote to the database?", Buttons::YesNo) ==
         Answer::Yes)
         RunFootnoteCommand([&] { ShowMessages(AddLibraryFootnote(name, text).messages); });
 }
 
 void frmFootnoteNew::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Escape) return Form::keyPressEvent(event);
-    cancelled_ = true;
-    Unload();
+    if (event->key() == Qt::Key_Escape)
+        Cancel();
+    else
+        Form::keyPressEvent(event);
 }
 
-FootnoteList ListOf(FootnoteMode mode) {
-    return mode == FootnoteMode::AccRpt ? AccessoryFootnotes(Project())
-                                        : ProposalFootnotes(Project());
-}
-
-void ShowFootnoteNew(FootnoteMode mode) {
-    (new frmFootnoteNew(mode))->ShowModal();
+std::optional<std::string> ShowFootnoteNew(FootnoteMode mode) {
+    std::optional<std::string> stored;
+    (new frmFootnoteNew(mode, stored))->ShowModal();
+    return stored;
 }
 
 }  // namespace tendo

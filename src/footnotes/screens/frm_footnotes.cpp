@@ -8,21 +8,17 @@
 #include <QSplitter>
 
 #include "footnotes/footnote_library.h"
-#include "footnotes/screens/edit_bar.h"
 #include "footnotes/screens/footnote_commands.h"
+#include "footnotes/screens/footnote_text.h"
 #include "footnotes/screens/frm_footnote_new.h"
+#include "footnotes/screens/project_footnote_list.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
 #include "platform/qt/rich_editor.h"
-#include "project/program_state.h"
 #include "project/project_records.h"
 
 namespace tendo {
 namespace {
-
-FootnoteList List() {
-    return ProposalFootnotes(Project());
-}
 
 QVBoxLayout* MakeSide(QWidget* side) {
     auto* column = new QVBoxLayout(side);
@@ -41,21 +37,22 @@ frmFootnotes::frmFootnotes() : Form("frmFootnotes", "Footnotes", Place::Child, "
     splitter->setHandleWidth(16);
     row->addWidget(splitter);
     auto* lists = new QWidget(splitter);
+    auto* side = new QWidget(splitter);
+    AddEditor(MakeSide(side));
     QVBoxLayout* left = MakeSide(lists);
     AddLibrary(left);
     AddSelected(left);
-    auto* text = new QWidget(splitter);
-    AddEditor(MakeSide(text));
     splitter->setStretchFactor(1, 1);
-    RefreshLibrary();
-    RefreshSelected();
-    ShowNothing();
-    library_->setFocus();
     setMinimumSize(760, 480);
+    RefreshLibrary();
+    library_->setFocus();
+    library_->setCurrentRow(0);
+    ShowSource();
 }
 
 void frmFootnotes::AddLibrary(QVBoxLayout* column) {
-    library_ = MakeFootnoteList("DBLFootNoteName", "Footnotes of the library", this);
+    library_ = new QListWidget(this);
+    PrepareFootnoteList(library_, "DBLFootNoteName", "Footnotes of the library");
     column->addWidget(MakeLabel("Footnotes of the &library", library_, this));
     column->addWidget(library_, 1);
     auto* buttons = new QHBoxLayout;
@@ -73,136 +70,119 @@ void frmFootnotes::AddLibrary(QVBoxLayout* column) {
     add->setProperty("primary", true);
     column->addWidget(add);
     column->addSpacing(8);
-    connect(library_, &QListWidget::itemClicked, this, [this] { DBLFootNoteName_Click(); });
     connect(library_, &QListWidget::currentRowChanged, this, [this] { DBLFootNoteName_Click(); });
+    connect(library_, &QListWidget::itemClicked, this, [this] {
+        if (text_->LibraryName() != ChosenName(library_)) DBLFootNoteName_Click();
+    });
+    connect(library_, &QListWidget::itemDoubleClicked, this, [this] { btnAddToList_Click(); });
 }
 
 void frmFootnotes::AddSelected(QVBoxLayout* column) {
-    selected_ = MakeFootnoteList("lstSelectedFootnotes", "Footnotes of this proposal", this);
+    selected_ = new ProjectFootnoteList(FootnoteMode::Selected, text_, this);
+    PrepareFootnoteList(selected_, "lstSelectedFootnotes", "Footnotes of this proposal");
     column->addWidget(
         MakeLabel("Footnotes of this &proposal, in the order of printing", selected_, this));
     column->addWidget(selected_, 1);
     auto* buttons = new QHBoxLayout;
-    buttons->addWidget(
-        MakeFootnoteButton("btnSelectedMoveUp", "Move &up", this, [this] { MoveSelected(true); }));
+    buttons->addWidget(MakeFootnoteButton("btnSelectedMoveUp", "Move &up", this,
+                                          [this] { selected_->Move(true); }));
     buttons->addWidget(MakeFootnoteButton("btnSelectedMoveDown", "Move do&wn", this,
-                                          [this] { MoveSelected(false); }));
-    buttons->addWidget(MakeFootnoteButton("btnSelectedRename", "Rena&me…", this,
-                                          [this] { btnSelectedRename_Click(); }));
-    buttons->addWidget(MakeFootnoteButton("btnSelectedDelete", "Remo&ve", this,
-                                          [this] { btnSelectedDelete_Click(); }));
+                                          [this] { selected_->Move(false); }));
+    buttons->addWidget(
+        MakeFootnoteButton("btnSelectedRename", "Rena&me…", this, [this] { selected_->Rename(); }));
+    buttons->addWidget(
+        MakeFootnoteButton("btnSelectedDelete", "Remo&ve", this, [this] { selected_->Remove(); }));
     Control("btnSelectedRename")->setAccessibleName("Rename the proposal's footnote");
     Control("btnSelectedDelete")->setAccessibleName("Remove from the proposal");
     buttons->addStretch(1);
     column->addLayout(buttons);
-    connect(selected_, &QListWidget::itemClicked, this, [this] { lstSelectedFootnotes_Click(); });
-    connect(selected_, &QListWidget::currentRowChanged, this,
-            [this] { lstSelectedFootnotes_Click(); });
+    connect(selected_, &ProjectFootnoteList::Chosen, this, &frmFootnotes::ShowSource);
 }
 
 void frmFootnotes::AddEditor(QVBoxLayout* column) {
-    editor_ = new RichEditor;
-    editor_->setObjectName("rtxtFootnoteText");
-    editor_->setAccessibleName("Text of the footnote");
-    shown_ = MakeLabel("", editor_, this);
+    text_ = new FootnoteText({"rtxtFootnoteText", "EditBand", "Text of the footnote", {}}, this);
+    shown_ = MakeLabel("", text_->Editor(), this);
     shown_->setObjectName("lblFootnoteText");
+    shown_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // names may be long
     column->addWidget(shown_);
-    column->addWidget(new EditBar(editor_, this));
-    column->addWidget(editor_, 1);  // behind the bar in the order of Tab
+    column->addWidget(text_, 1);
 }
 
 void frmFootnotes::RefreshLibrary() {
     RunFootnoteCommand([this] { FillFootnoteList(library_, LibraryFootnoteNames()); });
-    EnableButtons();
 }
 
-void frmFootnotes::RefreshSelected() {
-    FillFootnoteList(selected_, NamesOf(List()));
+/// The label above the editor tells which text stands in it.
+void frmFootnotes::ShowSource() {
     EnableButtons();
+    std::string source;
+    if (text_->LibraryName())
+        source = "&Text in the library: " + *text_->LibraryName();
+    else if (const auto row = text_->ProjectRow())
+        source = "&Text on this proposal: " +
+                 std::string(ProposalFootnotes(Project()).rows[*row].Name.Trimmed());
+    else
+        source = "Choose a footnote to read and change its &text.";
+    const std::size_t name = source.find(':');
+    QString text = QString::fromStdString(source);
+    if (name != std::string::npos) {
+        const auto start = static_cast<qsizetype>(name);
+        text = text.left(start) + text.mid(start).replace("&", "&&");
+    }
+    shown_->setText(text);
 }
 
 void frmFootnotes::EnableButtons() {
-    const auto enable = [this](const char* name, bool on) {
-        if (QWidget* button = Control(name)) button->setEnabled(on);
+    const auto enable = [this](std::initializer_list<const char*> names, bool on) {
+        for (const char* name : names)
+            if (QWidget* button = Control(name)) button->setEnabled(on);
     };
-    for (const char* name : {"btnRename", "btnDelete", "btnAddToList"})
-        enable(name, library_->currentItem());
-    if (!selected_) return;
-    for (const char* name :
-         {"btnSelectedMoveUp", "btnSelectedMoveDown", "btnSelectedRename", "btnSelectedDelete"})
-        enable(name, selected_->currentItem());
+    enable({"btnRename", "btnDelete", "btnAddToList"}, library_->currentItem());
+    enable({"btnSelectedMoveUp", "btnSelectedMoveDown", "btnSelectedRename", "btnSelectedDelete"},
+           selected_->Row().has_value());
 }
 
-void frmFootnotes::StoreText() {
-    if (!source_ || !editor_->IsEdited()) return;
-    const std::string text = editor_->Text();
-    const bool stored = RunFootnoteCommand([&] {
-        if (!source_->row) {
-            StoreLibraryFootnoteText(source_->name, text);
-        } else if (*source_->row < List().Size()) {
-            List().rows[*source_->row].Description = text;
-            State().ProjectChanged = true;
-        }
-    });
-    if (stored) editor_->SetEdited(false);
+void frmFootnotes::CommitEdits() {
+    text_->StoreProjectText();
 }
 
-void frmFootnotes::ShowNothing() {
-    source_.reset();
-    editor_->ShowText("");
-    editor_->setReadOnly(true);
-    shown_->setText("Choose a footnote to read and change its &text.");
+void frmFootnotes::StoreFields() {
+    text_->Store();
+}
+
+bool frmFootnotes::QueryUnload() {
+    return text_->Store() ||
+           Ask("TENDO",
+               "The text of this footnote was not stored.  Do you want to close and lose it?",
+               Buttons::YesNo, MessageIcon::Warning) == Answer::Yes;
 }
 
 void frmFootnotes::DBLFootNoteName_Click() {
     const std::string name = ChosenName(library_);
-    EnableButtons();
-    if (name.empty()) return;
-    StoreText();
-    RunFootnoteCommand([&] {
-        const std::string text = LibraryFootnoteText(name);
-        source_ = Source{name, {}};
-        editor_->setReadOnly(false);
-        editor_->ShowText(text);
-        shown_->setText("&Text in the library: " + QString::fromStdString(name).replace("&", "&&"));
-    });
+    if (!name.empty() && text_->Store())
+        RunFootnoteCommand([&] { text_->ShowLibraryText(name, LibraryFootnoteText(name)); });
+    ShowSource();
 }
 
-void frmFootnotes::lstSelectedFootnotes_Click() {
-    EnableButtons();
-    const auto row = SelectedRow();
-    if (!row) return;
-    StoreText();
-    const FootNoteRow& footnote = List().rows[*row];
-    source_ = Source{"", row};
-    editor_->setReadOnly(false);
-    editor_->ShowText(footnote.Description);
-    shown_->setText(
-        "&Text on this proposal: " +
-        QString::fromStdString(std::string(footnote.Name.Trimmed())).replace("&", "&&"));
-}
-
-std::optional<std::size_t> frmFootnotes::SelectedRow() const {
-    const int row = selected_->currentRow();
-    if (row < 0 || static_cast<std::size_t>(row) >= List().Size()) return {};
-    return static_cast<std::size_t>(row);
+void frmFootnotes::ChooseInLibrary(const std::string& name) {
+    RefreshLibrary();
+    const auto found = library_->findItems(QString::fromStdString(name),
+                                           Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (!found.isEmpty()) library_->setCurrentItem(found.first());
 }
 
 void frmFootnotes::btnNew_Click() {
-    StoreText();
-    ShowFootnoteNew(FootnoteMode::Database);
-    RefreshLibrary();
+    if (!text_->Store()) return;
+    const auto name = ShowFootnoteNew(FootnoteMode::Database);
+    if (name)
+        ChooseInLibrary(*name);
+    else
+        RefreshLibrary();
 }
 
 void frmFootnotes::btnAddToList_Click() {
     const std::string name = ChosenName(library_);
-    if (name.empty()) return;
-    StoreText();
-    RunFootnoteCommand([&] {
-        AddFootnote(List(), name, LibraryFootnoteText(name));
-        State().ProjectChanged = true;
-    });
-    RefreshSelected();
+    if (!name.empty() && text_->Store()) AddFromLibrary(FootnoteMode::Selected, name);
 }
 
 void frmFootnotes::btnDelete_Click() {
@@ -211,77 +191,39 @@ void frmFootnotes::btnDelete_Click() {
                             Buttons::YesNo) != Answer::Yes)
         return;
     if (!RunFootnoteCommand([&] { DeleteLibraryFootnote(name); })) return;
-    if (source_ && !source_->row) ShowNothing();
+    const bool shown = text_->LibraryName().has_value();
+    if (text_->LibraryName() == name) text_->ShowNothing();
     RefreshLibrary();
+    if (shown)
+        DBLFootNoteName_Click();
+    else
+        ShowSource();
 }
 
 void frmFootnotes::btnRename_Click() {
     const std::string name = ChosenName(library_);
     if (name.empty()) return;
-    const std::string newName = AskFootnoteName();
+    const std::string newName = AskFootnoteName(name);
     if (newName.empty()) return;
-    StoreText();
-    RunFootnoteCommand([&] {
+    const bool renamed = RunFootnoteCommand([&] {
         if (LibraryHasFootnote(newName)) {
             ShowMessage("TENDO", "You are already using the name, " + newName +
                                      ".  Please select another name");
             return;
         }
         RenameLibraryFootnote(name, newName);
-        if (source_ && !source_->row) source_->name = newName;
+        if (text_->LibraryName() == name) text_->FollowName(newName);
     });
-    RefreshLibrary();
-    if (source_ && !source_->row) DBLFootNoteName_Click();
+    if (renamed) RefreshLibrary();
+    ShowSource();
 }
 
-void frmFootnotes::btnSelectedRename_Click() {
-    const auto row = SelectedRow();
-    if (!row) return;
-    const std::string name = AskFootnoteName();
-    if (name.empty()) return;
-    List().rows[*row].Name = name;
-    State().ProjectChanged = true;
-    RefreshSelected();
-    lstSelectedFootnotes_Click();
-}
-
-void frmFootnotes::btnSelectedDelete_Click() {
-    const auto row = SelectedRow();
-    if (!row || Ask("TENDO", "Are you sure you want to remove this footnote?", Buttons::YesNo) !=
-                    Answer::Yes)
-        return;
-    // Rows move up, so the editor's row is another footnote's afterwards.
-    if (source_ && source_->row) {
-        if (*source_->row != *row) StoreText();
-        ShowNothing();
-    }
-    RemoveFootnote(List(), *row);
-    State().ProjectChanged = true;
-    RefreshSelected();
-    lstSelectedFootnotes_Click();
-}
-
-void frmFootnotes::MoveSelected(bool up) {
-    const auto row = SelectedRow();
-    if (!row) return;
-    StoreText();
-    if (!(up ? MoveFootnoteUp(List(), *row) : MoveFootnoteDown(List(), *row))) return;
-    State().ProjectChanged = true;
-    RefreshSelected();
-    selected_->setCurrentRow(static_cast<int>(up ? *row - 1 : *row + 1));
-}
-
-/// F2 renames and Delete removes in the list that has the focus; Ctrl with an arrow moves.
+/// F2 renames and Delete removes in the library's list, too; Return adds to the proposal.
 void frmFootnotes::keyPressEvent(QKeyEvent* event) {
-    const bool inLibrary = library_->hasFocus(), inProposal = selected_->hasFocus();
-    const bool control = event->modifiers() == Qt::ControlModifier;
-    if (event->key() == Qt::Key_F2 && inLibrary) return btnRename_Click();
-    if (event->key() == Qt::Key_F2 && inProposal) return btnSelectedRename_Click();
-    if (event->key() == Qt::Key_Delete && inLibrary) return btnDelete_Click();
-    if (event->key() == Qt::Key_Delete && inProposal) return btnSelectedDelete_Click();
-    if (event->key() == Qt::Key_Return && inLibrary) return btnAddToList_Click();
-    if (control && inProposal && event->key() == Qt::Key_Up) return MoveSelected(true);
-    if (control && inProposal && event->key() == Qt::Key_Down) return MoveSelected(false);
+    const bool inLibrary = library_->hasFocus();
+    if (inLibrary && event->key() == Qt::Key_F2) return btnRename_Click();
+    if (inLibrary && event->key() == Qt::Key_Delete) return btnDelete_Click();
+    if (inLibrary && event->key() == Qt::Key_Return) return btnAddToList_Click();
     Form::keyPressEvent(event);
 }
 

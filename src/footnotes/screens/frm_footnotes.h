@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "platform/qt/form.h"
@@ -11,7 +10,8 @@ class QVBoxLayout;
 
 namespace tendo {
 
-class RichEditor;
+class FootnoteText;
+class ProjectFootnoteList;
 
 /// The project's footnotes: the library and the proposal's list side by side with an editor.
 class frmFootnotes : public Form {
@@ -21,45 +21,32 @@ class frmFootnotes : public Form {
     QSize sizeHint() const override { return {1060, 680}; }
 
   protected:
-    void StoreFields() override { StoreText(); }
-    void FormUnload() override { StoreText(); }
+    void CommitEdits() override;
+    void StoreFields() override;
+    bool QueryUnload() override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    /// Where the text in the editor came from: a footnote of the library by its name, or a row of
-    /// the project's list.
-    struct Source {
-        std::string name;
-        std::optional<std::size_t> row;
-    };
-
     void AddLibrary(QVBoxLayout* column);
     void AddSelected(QVBoxLayout* column);
     void AddEditor(QVBoxLayout* column);
 
+    /// Reads the library's names anew.
     void RefreshLibrary();
-    void RefreshSelected();
-    /// Puts an edited text back to where it came from.
-    void StoreText();
-    void ShowNothing();
-    std::optional<std::size_t> SelectedRow() const;
-    void MoveSelected(bool up);
+    void ChooseInLibrary(const std::string& name);
+    void ShowSource();
     void EnableButtons();
 
     void DBLFootNoteName_Click();
-    void lstSelectedFootnotes_Click();
     void btnNew_Click();
     void btnAddToList_Click();
     void btnDelete_Click();
     void btnRename_Click();
-    void btnSelectedRename_Click();
-    void btnSelectedDelete_Click();
 
     QListWidget* library_ = nullptr;
-    QListWidget* selected_ = nullptr;
+    ProjectFootnoteList* selected_ = nullptr;
     QLabel* shown_ = nullptr;
-    RichEditor* editor_ = nullptr;
-    std::optional<Source> source_;
+    FootnoteText* text_ = nullptr;
 };
 
 }  // namespace tendo

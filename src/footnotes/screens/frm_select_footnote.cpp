@@ -1,6 +1,6 @@
 #include "footnotes/screens/frm_select_footnote.h"
 
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
@@ -10,19 +10,19 @@
 #include "footnotes/screens/footnote_commands.h"
 #include "platform/qt/fields.h"
 #include "platform/qt/rich_editor.h"
-#include "project/program_state.h"
 
 namespace tendo {
 
-frmSelectFootNoteFromDB::frmSelectFootNoteFromDB(FootnoteList target, std::function<void()> added)
+frmSelectFootNoteFromDB::frmSelectFootNoteFromDB(FootnoteMode mode)
     : Form("frmSelectFootNoteFromDB", "Select a Footnote", Place::Dialog,
            "frmSelectFootNoteFromDB"),
-      target_(target),
-      added_(std::move(added)) {
+      mode_(mode) {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(16, 16, 16, 16);
     grid->setHorizontalSpacing(16);
-    library_ = MakeFootnoteList("DBLFootNoteName", "Footnotes of the library", this);
+    grid->setVerticalSpacing(8);
+    library_ = new QListWidget(this);
+    PrepareFootnoteList(library_, "DBLFootNoteName", "Footnotes of the library");
     text_ = new RichEditor(this);
     text_->setObjectName("rtxtFootnoteText");
     text_->setAccessibleName("Text of the footnote");
@@ -33,19 +33,29 @@ frmSelectFootNoteFromDB::frmSelectFootNoteFromDB(FootnoteList target, std::funct
     grid->addWidget(text_, 1, 1);
     grid->setColumnStretch(0, 2);
     grid->setColumnStretch(1, 3);
-    auto* buttons = new QHBoxLayout;
+    grid->addLayout(MakeButtons(), 2, 0, 1, 2);
+    RunFootnoteCommand([this] { FillFootnoteList(library_, LibraryFootnoteNames()); });
+    connect(library_, &QListWidget::currentRowChanged, this, [this] { DBLFootNoteName_Click(); });
+    connect(library_, &QListWidget::itemDoubleClicked, this, [this] { btnSelect_Click(); });
+    library_->setCurrentRow(0);
+}
+
+QHBoxLayout* frmSelectFootNoteFromDB::MakeButtons() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
     QPushButton* select =
         MakeFootnoteButton("btnSelect", "&Select", this, [this] { btnSelect_Click(); });
     select->setProperty("primary", true);
-    buttons->addWidget(select);
-    buttons->addStretch(1);
-    buttons->addWidget(MakeFootnoteButton("btnOk", "&OK", this, [this] { Unload(); }));
-    buttons->addWidget(MakeFootnoteButton("btnCancel", "&Cancel", this, [this] { Unload(); }));
-    grid->addLayout(buttons, 2, 0, 1, 2);
-    RunFootnoteCommand([this] { FillFootnoteList(library_, LibraryFootnoteNames()); });
-    connect(library_, &QListWidget::itemClicked, this, [this] { DBLFootNoteName_Click(); });
-    connect(library_, &QListWidget::currentRowChanged, this, [this] { DBLFootNoteName_Click(); });
-    connect(library_, &QListWidget::itemDoubleClicked, this, [this] { btnSelect_Click(); });
+    added_ = new QLabel(this);
+    added_->setObjectName("lblAdded");
+    added_->setProperty("quiet", true);
+    added_->setTextFormat(Qt::PlainText);
+    added_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // names may be long
+    row->addWidget(select);
+    row->addWidget(added_, 1);
+    row->addWidget(MakeFootnoteButton("btnOk", "&OK", this, [this] { Unload(); }));
+    row->addWidget(MakeFootnoteButton("btnCancel", "&Cancel", this, [this] { Unload(); }));
+    return row;
 }
 
 void frmSelectFootNoteFromDB::DBLFootNoteName_Click() {
@@ -55,17 +65,15 @@ void frmSelectFootNoteFromDB::DBLFootNoteName_Click() {
 
 void frmSelectFootNoteFromDB::btnSelect_Click() {
     const std::string name = ChosenName(library_);
-    if (name.empty()) return;
-    RunFootnoteCommand([&] {
-        AddFootnote(target_, name, LibraryFootnoteText(name));
-        State().ProjectChanged = true;
-        if (added_) added_();
-    });
+    if (name.empty() || !AddFromLibrary(mode_, name)) return;
+    added_->setText(QString::fromStdString("Added: " + name));
 }
 
 void frmSelectFootNoteFromDB::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
         Unload();
+    else if (event->key() == Qt::Key_Return && library_->hasFocus())
+        btnSelect_Click();
     else
         Form::keyPressEvent(event);
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <functional>
-
-#include "footnotes/project_footnotes.h"
+#include "footnotes/screens/footnote_changes.h"
 #include "platform/qt/form.h"
 
+class QHBoxLayout;
+class QLabel;
 class QListWidget;
 
 namespace tendo {
@@ -15,21 +15,21 @@ class RichEditor;
 class frmSelectFootNoteFromDB : public Form {
     Q_OBJECT
   public:
-    /// `added` runs after each footnote that was added, so that the caller refills its list.
-    frmSelectFootNoteFromDB(FootnoteList target, std::function<void()> added);
+    explicit frmSelectFootNoteFromDB(FootnoteMode mode);
     QSize sizeHint() const override { return {760, 480}; }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    QHBoxLayout* MakeButtons();
     void DBLFootNoteName_Click();
     void btnSelect_Click();
 
-    FootnoteList target_;
-    std::function<void()> added_;
+    FootnoteMode mode_;
     QListWidget* library_ = nullptr;
     RichEditor* text_ = nullptr;
+    QLabel* added_ = nullptr;
 };
 
 }  // namespace tendo

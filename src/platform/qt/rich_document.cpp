@@ -157,10 +157,7 @@ RichRun RunFormatOf(const QTextCharFormat& format) {
     return run;
 }
 
-void ShowRichText(QTextDocument& document, const RichText& text) {
-    document.clear();
-    document.setIndentWidth(IndentPixels);
-    QTextCursor cursor(&document);
+void InsertRichText(QTextCursor& cursor, const RichText& text) {
     cursor.beginEditBlock();
     bool first = true;
     for (const RichParagraph& paragraph : text.paragraphs) {
@@ -168,6 +165,13 @@ void ShowRichText(QTextDocument& document, const RichText& text) {
         first = false;
     }
     cursor.endEditBlock();
+}
+
+void ShowRichText(QTextDocument& document, const RichText& text) {
+    document.clear();
+    document.setIndentWidth(IndentPixels);
+    QTextCursor cursor(&document);
+    InsertRichText(cursor, text);
 }
 
 RichText RichTextOf(const QTextDocument& document) {

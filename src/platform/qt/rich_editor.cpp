@@ -1,21 +1,25 @@
 #include "platform/qt/rich_editor.h"
 
+#include <QFileInfo>
 #include <QMimeData>
 #include <QTextBlock>
 #include <QTextDocumentFragment>
 #include <QTextList>
+#include <QUrl>
 #include <algorithm>
 #include <array>
 
 #include "platform/print/rich_text.h"
 #include "platform/print/rtf_writer.h"
 #include "platform/qt/rich_document.h"
+#include "platform/text/text.h"
 
 namespace tendo {
 namespace {
 
 /// The names under which programs offer Rich Text Format.
-constexpr std::array RichFormats = {"text/rtf", "application/rtf", "text/richtext"};
+constexpr std::array RichFormats = {"text/rtf", "application/rtf", "text/richtext",
+                                    "application/x-qt-windows-mime;value=\"Rich Text Format\""};
 
 const RichRun& Base() {
     static const RichRun base = {"", {.family = "Arial", .sizeTwips = 240}, 0};
@@ -39,6 +43,47 @@ RichText LinesAsParagraphs(const RichText& text) {
     return lines;
 }
 
+RichText AsParagraphs(const std::string& text) {
+    const RichText rich = ReadRichOrPlainText(text, Base());
+    return IsRichText(text) ? rich : LinesAsParagraphs(rich);
+}
+
+/// The one text file that comes by a drop; empty for anything else.
+QString TextFileOf(const QMimeData* source) {
+    const QList<QUrl> files = source->urls();
+    if (files.size() != 1 || !files.first().isLocalFile()) return {};
+    const QString file = files.first().toLocalFile();
+    const QString ending = QFileInfo(file).suffix().toLower();
+    return ending == "txt" || ending == "rtf" ? file : QString();
+}
+
+/// A page of the web that fetches nothing.
+class PageText : public QTextDocument {
+  protected:
+    QVariant loadResource(int, const QUrl&) override { return {}; }
+};
+
+/// What of a web page can stand in a footnote, in the font at the caret.
+RichText SensibleText(const QString& page, const RichRun& format) {
+    PageText document;
+    document.setHtml(page);
+    RichText text = RichTextOf(document);
+    std::erase_if(text.paragraphs, [](const RichParagraph& paragraph) {
+        return std::all_of(paragraph.runs.begin(), paragraph.runs.end(),
+                           [](const RichRun& run) { return Trimmed(run.text).empty(); });
+    });
+    for (RichParagraph& paragraph : text.paragraphs) {
+        paragraph.spaceBefore = paragraph.spaceAfter = paragraph.rightIndent = 0;
+        if (!paragraph.bullet) paragraph.leftIndent = paragraph.firstIndent = 0;
+        for (RichRun& run : paragraph.runs) {
+            run.font.family = format.font.family;
+            run.font.sizeTwips = format.font.sizeTwips;
+            run.color = format.color;
+        }
+    }
+    return text;
+}
+
 QByteArray RichBytesOf(const QMimeData* source) {
     for (const char* format : RichFormats)
         if (source->hasFormat(format)) return source->data(format);
@@ -57,56 +102,31 @@ RichEditor::RichEditor(QWidget* parent) : QTextEdit(parent) {
 
 void RichEditor::ShowText(const std::string& text) {
     shown_ = text;
-    const RichText rich = ReadRichOrPlainText(text, Base());
-    ShowRichText(*document(), IsRichText(text) ? rich : LinesAsParagraphs(rich));
+    ShowRichText(*document(), AsParagraphs(text));
     if (document()->isEmpty()) setCurrentCharFormat(CharFormatOf(Base()));
     document()->clearUndoRedoStacks();
     edited_ = false;
     moveCursor(QTextCursor::Start);
 }
 
+void RichEditor::ReplaceText(const std::string& text) {
+    QTextCursor cursor = textCursor();
+    cursor.beginEditBlock();
+    cursor.select(QTextCursor::Document);
+    cursor.removeSelectedText();
+    InsertRichText(cursor, AsParagraphs(text));
+    cursor.endEditBlock();
+    edited_ = true;
+    moveCursor(QTextCursor::Start);
+}
+
+void RichEditor::MarkStored() {
+    shown_ = Text();
+    edited_ = false;
+}
+
 std::string RichEditor::Text() const {
     return IsEdited() ? WriteRichText(RichTextOf(*document())) : shown_;
-}
-
-void RichEditor::Merge(const QTextCharFormat& format) {
-    mergeCurrentCharFormat(format);
-}
-
-void RichEditor::SetBold(bool on) {
-    QTextCharFormat format;
-    format.setFontWeight(on ? QFont::Bold : QFont::Normal);
-    Merge(format);
-}
-
-void RichEditor::SetItalic(bool on) {
-    QTextCharFormat format;
-    format.setFontItalic(on);
-    Merge(format);
-}
-
-void RichEditor::SetUnderline(bool on) {
-    QTextCharFormat format;
-    format.setFontUnderline(on);
-    Merge(format);
-}
-
-void RichEditor::SetColor(QColor color) {
-    QTextCharFormat format;
-    format.setForeground(color);
-    Merge(format);
-}
-
-void RichEditor::SetFamily(const QString& family) {
-    QTextCharFormat format;
-    format.setFontFamilies({family});
-    Merge(format);
-}
-
-void RichEditor::SetPointSize(double points) {
-    QTextCharFormat format;
-    format.setFontPointSize(points);
-    Merge(format);
 }
 
 void RichEditor::SetBullets(bool on) {
@@ -146,18 +166,27 @@ void RichEditor::Indent(int steps) {
 }
 
 bool RichEditor::canInsertFromMimeData(const QMimeData* source) const {
-    return source->hasText() || !RichBytesOf(source).isEmpty();
+    if (source->hasUrls() && !source->hasHtml()) return !TextFileOf(source).isEmpty();
+    return source->hasText() || source->hasHtml() || !RichBytesOf(source).isEmpty();
 }
 
 void RichEditor::insertFromMimeData(const QMimeData* source) {
     const QByteArray rich = RichBytesOf(source);
-    if (rich.isEmpty()) {
-        if (source->hasText()) textCursor().insertText(source->text());
-        return;
-    }
+    if (const QString file = TextFileOf(source); !file.isEmpty())
+        Q_EMIT FileDropped(file);
+    else if (!rich.isEmpty())
+        InsertRich(ReadRichOrPlainText(rich.toStdString(), Base()));
+    else if (source->hasHtml())
+        InsertRich(SensibleText(source->html(), RunFormatOf(currentCharFormat())));
+    else if (source->hasText())
+        textCursor().insertText(source->text());
+}
+
+void RichEditor::InsertRich(const RichText& text) {
     QTextDocument pasted;
-    ShowRichText(pasted, ReadRichOrPlainText(rich.toStdString(), Base()));
+    ShowRichText(pasted, text);
     textCursor().insertFragment(QTextDocumentFragment(&pasted));
+    ensureCursorVisible();
 }
 
 QMimeData* RichEditor::createMimeDataFromSelection() const {

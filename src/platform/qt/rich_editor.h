@@ -3,6 +3,8 @@
 #include <QTextEdit>
 #include <string>
 
+#include "platform/print/rich_model.h"
+
 namespace tendo {
 
 /// An editor of rich text on white paper, whatever the theme: what is written here is printed. It
@@ -14,31 +16,32 @@ class RichEditor : public QTextEdit {
 
     /// Shows a text, rich or plain; its history of changes begins anew.
     void ShowText(const std::string& text);
+    /// Puts a text, rich or plain, in the place of the whole text; one step for undo.
+    void ReplaceText(const std::string& text);
     /// The text as it was shown when it wasn't edited since, else in Rich Text Format.
     std::string Text() const;
     bool IsEdited() const { return edited_; }
-    /// What stands in the editor counts as stored, or as not.
-    void SetEdited(bool edited) { edited_ = edited; }
+    /// What stands in the editor was stored.
+    void MarkStored();
 
-    // What the tools do to the selection, or to what is typed next.
-    void SetBold(bool on);
-    void SetItalic(bool on);
-    void SetUnderline(bool on);
-    void SetColor(QColor color);
-    void SetFamily(const QString& family);
-    void SetPointSize(double points);
+    /// Makes points of a list of the selected paragraphs, or plain ones.
     void SetBullets(bool on);
-    /// One step in (1) or out (-1).
+    /// The selected paragraphs one step in (1) or out (-1).
     void Indent(int steps);
 
+  Q_SIGNALS:
+    /// A text file was dropped on the text.
+    void FileDropped(const QString& file);
+
   protected:
-    /// Rich text from other programs comes in its own format where they give it.
+    /// Rich text from other programs comes in its own format where they give it. Of what a browser
+    /// gives only what a footnote can print well is taken: words, bold, italics, underline, points.
     bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
     QMimeData* createMimeDataFromSelection() const override;
 
   private:
-    void Merge(const QTextCharFormat& format);
+    void InsertRich(const RichText& text);
 
     std::string shown_;
     bool edited_ = false;

@@ -7,6 +7,7 @@
 
 #include "footnotes/project_footnotes.h"
 #include "footnotes/screens/footnote_page.h"
+#include "platform/files/paths.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
 #include "platform/text/number_text.h"
@@ -55,11 +56,6 @@ void frmReportOptions::ShowOptions() {
     showing_ = false;
 }
 
-void frmReportOptions::ShowPictures() {
-    ShowPicture("txtTitlePageLogo", values_.logoFile);
-    ShowPicture("txtBannerFile", values_.bannerFile);
-}
-
 void frmReportOptions::MarkFrame(OptionFrame frame, bool marked) {
     const auto table = ReportOptionTable();
     showing_ = true;
@@ -82,14 +78,14 @@ void frmReportOptions::StoreNumbers() {
     values_.lineSpacing = NumberIn(txtLineSpacing_, 50, 500, values_.lineSpacing);
 }
 
-void frmReportOptions::StoreFields() {
+void frmReportOptions::CommitEdits() {
     footnotes_->StoreText();
     accessoryFootnotes_->StoreText();
 }
 
 bool frmReportOptions::Save() {
     StoreNumbers();
-    StoreFields();
+    CommitEdits();
     // All options but these two belong to the program, not to the project.
     if (values_.Mark("chkClientComment") != Project().GPDClientFormat.ClientPrintComment ||
         values_.Mark("chkCompComment") != Project().GPDCompanyFormat.CompanyPrintComment)
@@ -116,9 +112,9 @@ void frmReportOptions::FillProposalFormats(const std::string& chosen) {
 
 void frmReportOptions::cmbProposalFormats_Change() {
     const std::string name = ChosenFormat();
-    if (name == CustomFormat) return;
-    StoreFields();
+    if (name == CustomFormat || !FileExists(ProposalFormatFile())) return;
     bool found = false;
+    FootnotesWillChange(FootnoteMode::Selected);
     if (!Guarded([&] { found = LoadProposalFormat(name, values_, ProposalFootnotes(Project())); }))
         return;
     if (!found) {
@@ -126,29 +122,32 @@ void frmReportOptions::cmbProposalFormats_Change() {
                     "This Proposal Format is corrupted.  You need to delete it and recreate it.");
         return;
     }
-    State().ProjectChanged = true;  // its footnotes are others now
-    footnotes_->Refill();
+    FootnotesHaveChanged(FootnoteMode::Selected);
     ShowOptions();
     OptionChanged();
 }
 
 void frmReportOptions::SaveFormat(const std::string& name) {
     StoreNumbers();
-    StoreFields();
+    CommitEdits();
     bool saved = false;
     if (Guarded([&] { saved = SaveProposalFormat(name, values_, ProposalFootnotes(Project())); }) &&
         saved)
         ShowMessage(Title, name + " successfully saved.");
 }
 
+/// The name stands for what is set now, so no format can have it.
+bool frmReportOptions::IsCustomFormat(const std::string& name) {
+    if (name != CustomFormat) return false;
+    ShowMessage(Title,
+                "You can not save a proposal format with the name Custom Format.  Please save this "
+                "proposal format with another name.");
+    return true;
+}
+
 void frmReportOptions::btnSaveFormat_Click() {
     const std::string name = ChosenFormat();
-    if (name == CustomFormat) {
-        ShowMessage(Title,
-                    "You can not save a proposal format with the name Custom Format.  Please save "
-                    "this proposal format with another name.");
-        return;
-    }
+    if (IsCustomFormat(name)) return;
     if (Ask(Title, "Do you wish to save all Selected Report Items as proposal format:  " + name,
             Buttons::YesNo) == Answer::Yes)
         SaveFormat(name);
@@ -159,7 +158,7 @@ void frmReportOptions::btnSaveNewFormat_Click() {
         Dialogs()
             .Input({"New Proposal Format", "What do you want to name this Proposal Format?", ""})
             .value_or("")));
-    if (name.empty()) return;
+    if (name.empty() || IsCustomFormat(name)) return;
     SaveFormat(name);
     FillProposalFormats(name);
 }
@@ -170,8 +169,10 @@ void frmReportOptions::btnDeleteFormat_Click() {
         Ask(Title, "Are you sure you want to delete proposal format:  " + name, Buttons::YesNo) !=
             Answer::Yes)
         return;
-    if (!Guarded([&] { DeleteProposalFormat(name); })) return;
-    ShowMessage(Title, name + " successfully deleted.  New proposal format is Custom Format.");
+    bool deleted = false;
+    if (!Guarded([&] { deleted = DeleteProposalFormat(name); })) return;
+    if (deleted)
+        ShowMessage(Title, name + " successfully deleted.  New proposal format is Custom Format.");
     FillProposalFormats(std::string(CustomFormat));
 }
 

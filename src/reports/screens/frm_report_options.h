@@ -14,6 +14,7 @@ class QVBoxLayout;
 namespace tendo {
 
 class FootnotePage;
+class PictureChoice;
 class PreviewPane;
 class StylePage;
 class TextField;
@@ -27,7 +28,7 @@ class frmReportOptions : public Form {
     QSize sizeHint() const override { return {1240, 780}; }
 
   protected:
-    void StoreFields() override;
+    void CommitEdits() override;
     void FormUnload() override { Save(); }
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -35,17 +36,16 @@ class frmReportOptions : public Form {
     QWidget* MakeFormats();
     QWidget* MakePages();
     QWidget* MakePage(const std::vector<OptionFrame>& frames, QVBoxLayout*& column);
+    void AddHead(QVBoxLayout* column, OptionFrame frame);
+    QCheckBox* MakeBox(std::size_t option);
     void AddFrame(QVBoxLayout* column, OptionFrame frame);
     void AddNumbers(QVBoxLayout* column);
     void AddPictures(QVBoxLayout* column);
-    void AddPictureFile(QVBoxLayout* column, const char* field, const char* button,
-                        const char* caption, std::string ReportOptionValues::*file);
     PreviewPane* MakePreview();
 
     /// Shows the options in all controls.
     void ShowOptions();
     void ShowPictures();
-    void ShowPicture(const char* field, const std::string& file);
     void MarkFrame(OptionFrame frame, bool marked);
     /// An option changed: the preview follows when it is to.
     void OptionChanged();
@@ -55,6 +55,8 @@ class frmReportOptions : public Form {
     std::string ChosenFormat() const;
     void FillProposalFormats(const std::string& chosen);
     void SaveFormat(const std::string& name);
+    /// True, after a message, for the name that no format can have.
+    static bool IsCustomFormat(const std::string& name);
     void cmbProposalFormats_Change();
     void btnSaveFormat_Click();
     void btnSaveNewFormat_Click();
@@ -66,6 +68,7 @@ class frmReportOptions : public Form {
     QTabWidget* tabs_ = nullptr;
     TextField* txtStartingPageNo_ = nullptr;
     TextField* txtLineSpacing_ = nullptr;
+    std::vector<PictureChoice*> pictures_;  // title page, banner
     StylePage* styles_ = nullptr;
     FootnotePage* footnotes_ = nullptr;
     FootnotePage* accessoryFootnotes_ = nullptr;

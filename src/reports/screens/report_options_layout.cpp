@@ -1,23 +1,22 @@
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPixmap>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "footnotes/screens/footnote_page.h"
-#include "platform/files/paths.h"
-#include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
 #include "reports/generate_reports.h"
 #include "reports/screens/frm_preview.h"
 #include "reports/screens/frm_report_options.h"
+#include "reports/screens/picture_choice.h"
 #include "reports/screens/preview_pane.h"
 #include "reports/screens/print_document.h"
 #include "reports/screens/style_page.h"
@@ -28,16 +27,15 @@ namespace {
 struct FrameCaption {
     OptionFrame frame;
     const char* caption;
-    int columns;
 };
 const FrameCaption frameCaptions[] = {
-    {OptionFrame::Reports, "Sales Proposal - Print the Following:", 2},
-    {OptionFrame::ProjectSummary, "Project Summary - Print the Following:", 2},
-    {OptionFrame::BothModels, "For Both Cooling and Heating Models - Print the Following: ", 2},
-    {OptionFrame::Cooling, "Air Conditioners && Heat Pumps Only - Print the Following:", 2},
-    {OptionFrame::Heating, "Furnaces && Boilers Only - Print the Following:", 2},
-    {OptionFrame::General, "General", 2},
-    {OptionFrame::Pictures, "Pictures", 1}};
+    {OptionFrame::Reports, "Sales Proposal - Print the Following:"},
+    {OptionFrame::ProjectSummary, "Project Summary - Print the Following:"},
+    {OptionFrame::BothModels, "For Both Cooling and Heating Models - Print the Following: "},
+    {OptionFrame::Cooling, "Air Conditioners && Heat Pumps Only - Print the Following:"},
+    {OptionFrame::Heating, "Furnaces && Boilers Only - Print the Following:"},
+    {OptionFrame::General, "General"},
+    {OptionFrame::Pictures, "Pictures"}};
 
 const FootnotePageNames salesNames = {"Footnotes of the Sales &Report",
                                       "lstSelectedFootnotes",
@@ -76,9 +74,19 @@ constexpr FieldSpec lineSpacing = {.name = "txtLineSpacing",
                                    .maxLength = 3,
                                    .range = "50 to 500",
                                    .unit = "percent"};
-constexpr int PictureHeight = 64;
-constexpr const char* PictureFilter =
-    "Picture Files|*.bmp;*.wmf;*.emf;*.dib;*.ico;*.gif;*.jpg;*.png;*.svg";
+
+struct PictureOption {
+    const char* mark;
+    std::string ReportOptionValues::*file;
+    PictureChoice::Names names;
+};
+const PictureOption pictureOptions[] = {
+    {"chkPrintLogo",
+     &ReportOptionValues::logoFile,
+     {"txtTitlePageLogo", "btnLogoFileBrowse", "imgTitlePageLogo", "Picture of the &title page"}},
+    {"chkUseCustomBanner",
+     &ReportOptionValues::bannerFile,
+     {"txtBannerFile", "btnBannerFileBrowse", "imgBannerFile", "&Banner picture"}}};
 
 QToolButton* MakeLink(const QString& name, const QString& text, const QString& spoken,
                       QWidget* parent) {
@@ -124,8 +132,10 @@ frmReportOptions::frmReportOptions()
 PreviewPane* frmReportOptions::MakePreview() {
     auto* pane = new PreviewPane(allReports, this);
     pane->BeforeRun = [this] { Save(); };
-    pane->AddTool("ToolPrintReports", "print", "Print...",
-                  [pane] { PrintDocument(pane->ShownDocument(), pane->ShownPage()); });
+    pane->AddTool("ToolPrintReports", "print", "Print...", [pane] {
+        pane->Refresh();
+        PrintDocument(pane->ShownDocument(), pane->ShownPage());
+    });
     pane->AddTool("ToolPreviewReports", "preview", "Preview in a window of its own", [this] {
         Save();
         ShowPreview();
@@ -172,7 +182,7 @@ QWidget* frmReportOptions::MakePages() {
     styles_->Changed = [this] { OptionChanged(); };
     column->addWidget(styles_);
     tabs_->addTab(page, "Look");
-    page = MakePage({OptionFrame::Pictures}, column);
+    page = MakePage({}, column);
     AddPictures(column);
     tabs_->addTab(page, "Pictures");
     footnotes_ = new FootnotePage(FootnoteMode::Selected, salesNames, this);
@@ -181,6 +191,8 @@ QWidget* frmReportOptions::MakePages() {
         list->Changed = [this] { OptionChanged(); };
     tabs_->addTab(footnotes_, "Footnotes");
     tabs_->addTab(accessoryFootnotes_, "Accessory footnotes");
+    tabs_->ensurePolished();
+    tabs_->setMinimumWidth(tabs_->tabBar()->sizeHint().width());  // every tab in sight
     return tabs_;
 }
 
@@ -202,33 +214,42 @@ QWidget* frmReportOptions::MakePage(const std::vector<OptionFrame>& frames, QVBo
     return area;
 }
 
-void frmReportOptions::AddFrame(QVBoxLayout* column, OptionFrame frame) {
+void frmReportOptions::AddHead(QVBoxLayout* column, OptionFrame frame) {
     const auto& told = frameCaptions[static_cast<std::size_t>(frame)];
     const QString index = QString("(%1)").arg(static_cast<int>(frame));
-    const QString spoken = QString(told.caption).replace("&&", "and");
+    const QString caption = QString(told.caption).replace("&&", "&");
     auto* head = new QHBoxLayout;
-    head->addWidget(MakeHeading(told.caption, this), 1);
-    QToolButton* mark = MakeLink("lblMark" + index, "Mark", "Mark all: " + spoken, this);
-    QToolButton* clear = MakeLink("lblClear" + index, "Clear", "Clear all: " + spoken, this);
+    head->addWidget(MakeHeading(caption, this), 1);
+    QToolButton* mark = MakeLink("lblMark" + index, "Mark", "Mark all: " + caption, this);
+    QToolButton* clear = MakeLink("lblClear" + index, "Clear", "Clear all: " + caption, this);
     connect(mark, &QToolButton::clicked, this, [this, frame] { MarkFrame(frame, true); });
     connect(clear, &QToolButton::clicked, this, [this, frame] { MarkFrame(frame, false); });
     head->addWidget(mark);
     head->addWidget(clear);
     column->addLayout(head);
+}
+
+QCheckBox* frmReportOptions::MakeBox(std::size_t option) {
+    const ReportOption& told = ReportOptionTable()[option];
+    auto* box = boxes_[option] = new QCheckBox(told.caption, this);
+    box->setObjectName(told.control);
+    connect(box, &QCheckBox::toggled, this, [this, option](bool on) {
+        values_.marks[option] = on ? 1 : 0;
+        if (ReportOptionTable()[option].frame == OptionFrame::Pictures) ShowPictures();
+        OptionChanged();
+    });
+    return box;
+}
+
+void frmReportOptions::AddFrame(QVBoxLayout* column, OptionFrame frame) {
+    AddHead(column, frame);
     auto* grid = new QGridLayout;
     const auto table = ReportOptionTable();
     int at = 0;
     for (std::size_t i = 0; i < table.size(); ++i) {
         if (table[i].frame != frame) continue;
-        auto* box = boxes_[i] = new QCheckBox(table[i].caption, this);
-        box->setObjectName(table[i].control);
-        grid->addWidget(box, at / told.columns, at % told.columns);
+        grid->addWidget(MakeBox(i), at / 2, at % 2);
         ++at;
-        connect(box, &QCheckBox::toggled, this, [this, i](bool on) {
-            values_.marks[i] = on ? 1 : 0;
-            if (ReportOptionTable()[i].frame == OptionFrame::Pictures) ShowPictures();
-            OptionChanged();
-        });
     }
     column->addLayout(grid);
     column->addSpacing(12);
@@ -249,62 +270,33 @@ void frmReportOptions::AddNumbers(QVBoxLayout* column) {
     column->addSpacing(12);
 }
 
+/// Each mark stands above the file that it is about.
 void frmReportOptions::AddPictures(QVBoxLayout* column) {
-    AddPictureFile(column, "txtTitlePageLogo", "btnLogoFileBrowse", "Picture of the &title page",
-                   &ReportOptionValues::logoFile);
-    AddPictureFile(column, "txtBannerFile", "btnBannerFileBrowse", "&Banner picture",
-                   &ReportOptionValues::bannerFile);
+    AddHead(column, OptionFrame::Pictures);
+    const auto table = ReportOptionTable();
+    for (const PictureOption& option : pictureOptions) {
+        const auto at = std::find_if(table.begin(), table.end(), [&](const ReportOption& told) {
+            return std::string_view(told.control) == option.mark;
+        });
+        column->addWidget(MakeBox(static_cast<std::size_t>(at - table.begin())));
+        auto* choice = new PictureChoice(option.names, this);
+        choice->Chosen = [this, &option](const std::string& file) {
+            if (values_.*option.file == file) return;
+            values_.*option.file = file;
+            ShowPictures();
+            OptionChanged();
+        };
+        column->addWidget(choice);
+        pictures_.push_back(choice);
+    }
 }
 
-void frmReportOptions::AddPictureFile(QVBoxLayout* column, const char* field, const char* button,
-                                      const char* caption, std::string ReportOptionValues::*file) {
-    const FieldSpec spec = {.name = field, .label = caption, .maxLength = 255};
-    auto* text = new TextField(spec, this);
-    auto* browse = new QPushButton("Browse…", this);
-    browse->setObjectName(button);
-    browse->setAccessibleName(QString("Browse for: ") + QString(caption).remove('&'));
-    browse->setAutoDefault(false);
-    auto* row = new QHBoxLayout;
-    row->addWidget(text, 1);
-    row->addWidget(browse);
-    auto* picture = new QLabel(this);
-    picture->setObjectName(QString(field).replace("txt", "img"));
-    column->addWidget(MakeLabel(caption, text, this));
-    column->addLayout(row);
-    column->addWidget(picture);
-    const auto take = [this, field, file](const std::string& path) {
-        values_.*file = path;
-        ShowPicture(field, path);
-        OptionChanged();
-    };
-    connect(text, &TextField::Committed, this,
-            [text, take] { take(text->text().trimmed().toStdString()); });
-    connect(browse, &QPushButton::clicked, this, [this, file, take] {
-        const auto chosen = Dialogs().File({.kind = FileDialog::Kind::Open,
-                                            .title = "Find Picture",
-                                            .filter = PictureFilter,
-                                            .fileName = values_.*file,
-                                            .folder = "",
-                                            .defaultExtension = ""});
-        if (chosen && !chosen->empty()) take(*chosen);
-    });
-}
-
-/// The file's name in its field and the picture below it; the two files can be given only while
-/// their marks are on.
-void frmReportOptions::ShowPicture(const char* field, const std::string& file) {
-    auto* text = static_cast<TextField*>(Control(field));
-    const QString path = QString::fromStdString(file);
-    text->ShowText(path);
-    const QPixmap picture = QFileInfo(path).isFile() ? QPixmap(path) : QPixmap();
-    auto* shown = static_cast<QLabel*>(Control(QString(field).replace("txt", "img")));
-    shown->setVisible(!picture.isNull());
-    if (!picture.isNull())
-        shown->setPixmap(picture.scaledToHeight(PictureHeight, Qt::SmoothTransformation));
-    const bool logo = QString(field) == "txtTitlePageLogo";
-    const bool on = values_.Mark(logo ? "chkPrintLogo" : "chkUseCustomBanner") == 1;
-    text->setEnabled(on);
-    Control(logo ? "btnLogoFileBrowse" : "btnBannerFileBrowse")->setEnabled(on);
+/// The two files can be given only while their marks are on.
+void frmReportOptions::ShowPictures() {
+    for (std::size_t i = 0; i < pictures_.size(); ++i) {
+        const PictureOption& option = pictureOptions[i];
+        pictures_[i]->ShowFile(values_.*option.file, values_.Mark(option.mark) == 1);
+    }
 }
 
 }  // namespace tendo

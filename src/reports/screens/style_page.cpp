@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QPushButton>
 #include <QToolButton>
+#include <algorithm>
 
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
@@ -11,6 +12,7 @@ namespace tendo {
 namespace {
 
 constexpr std::uint32_t White = 0xFFFFFF;
+constexpr int LargestSample = 24;  // points; a larger font's sample would push the others away
 
 /// The reports' colours are in blue-green-red order, the screen's in red-green-blue; the colour of
 /// windows is the paper's.
@@ -90,7 +92,7 @@ void StylePage::ShowStyles() {
             ground + "color:" + ColorName(style.textColor) + ";" +
             QString("font-family:'%1';font-size:%2pt;font-weight:%3;font-style:%4;")
                 .arg(QString::fromStdString(style.fontName))
-                .arg(style.fontSize)
+                .arg(std::clamp<int>(style.fontSize, 1, LargestSample))
                 .arg(style.fontBold ? "bold" : "normal", style.fontItalic ? "italic" : "normal"));
     }
 }

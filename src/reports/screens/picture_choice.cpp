@@ -1,0 +1,86 @@
+#include "reports/screens/picture_choice.h"
+
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QImageReader>
+#include <QPushButton>
+
+#include "platform/qt/dialogs.h"
+#include "platform/qt/fields.h"
+
+namespace tendo {
+namespace {
+
+constexpr QSize LargestSample(420, 64);
+constexpr const char* PictureFilter =
+    "Picture Files|*.bmp;*.wmf;*.emf;*.dib;*.ico;*.gif;*.jpg;*.png;*.svg";
+
+/// At the size of the sample, without reading more of a large picture than that takes.
+QPixmap SampleOf(const QString& file, double ratio) {
+    QImageReader reader(file);
+    reader.setDecideFormatFromContent(true);
+    const QSize size = reader.size();
+    if (size.isValid())
+        reader.setScaledSize(
+            size.scaled(LargestSample * ratio, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    QPixmap picture = QPixmap::fromImage(reader.read());
+    picture.setDevicePixelRatio(ratio);
+    return picture;
+}
+
+}  // namespace
+
+PictureChoice::PictureChoice(const Names& names, QWidget* parent) : QWidget(parent) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 16);
+    column->setSpacing(4);
+    const FieldSpec spec = {.name = names.field, .label = names.caption, .maxLength = 255};
+    text_ = new TextField(spec, this);
+    browse_ = new QPushButton("Browse…", this);
+    browse_->setObjectName(names.button);
+    browse_->setAccessibleName(QString("Browse for: ") + QString(names.caption).remove('&'));
+    browse_->setAutoDefault(false);
+    auto* row = new QHBoxLayout;
+    row->addWidget(text_, 1);
+    row->addWidget(browse_);
+    picture_ = new QLabel(this);
+    picture_->setObjectName(names.picture);
+    picture_->setProperty("quiet", true);
+    column->addWidget(MakeLabel(names.caption, text_, this));
+    column->addLayout(row);
+    column->addWidget(picture_);
+    connect(text_, &TextField::textChanged, this, &PictureChoice::ShowPicture);
+    connect(text_, &TextField::Committed, this,
+            [this] { Chosen(text_->text().trimmed().toStdString()); });
+    connect(browse_, &QPushButton::clicked, this, &PictureChoice::Browse);
+    ShowPicture();
+}
+
+void PictureChoice::ShowFile(const std::string& file, bool enabled) {
+    text_->ShowText(QString::fromStdString(file));
+    text_->setEnabled(enabled);
+    browse_->setEnabled(enabled);
+}
+
+void PictureChoice::Browse() {
+    const auto file = Dialogs().File({.kind = FileDialog::Kind::Open,
+                                      .title = "Find Picture",
+                                      .filter = PictureFilter,
+                                      .fileName = text_->text().toStdString(),
+                                      .folder = "",
+                                      .defaultExtension = ""});
+    if (file && !file->empty()) Chosen(*file);
+}
+
+void PictureChoice::ShowPicture() {
+    const QString file = text_->text().trimmed();
+    const bool exists = QFileInfo(file).isFile();
+    const QPixmap picture = exists ? SampleOf(file, devicePixelRatioF()) : QPixmap();
+    picture_->setVisible(!file.isEmpty());
+    if (picture.isNull())
+        picture_->setText(exists ? "This picture can't be shown here." : "There is no such file.");
+    else
+        picture_->setPixmap(picture);
+}
+
+}  // namespace tendo
