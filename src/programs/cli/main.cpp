@@ -2,8 +2,8 @@
 #include <new>
 
 #include "platform/text/runtime_error.h"
-#include "platform/text/text.h"
 #include "programs/cli/arguments.h"
+#include "programs/cli/messages.h"
 
 namespace {
 
@@ -16,11 +16,15 @@ const Verb verbs[] = {
      {1, {"--json"}, {}},
      RunInfo},
     {"report",
-     "tendo-cli report PROJECT -o OUT.pdf|OUT.png [--reports title,sales] [--home DIR]",
+     "tendo-cli report PROJECT -o OUT.pdf|OUT.png [--reports title,sales] [--format NAME] [--home "
+     "DIR]",
      "Writes the project's report package. A .png gives one picture a page (OUT-1.png, OUT-2.png "
-     "...).\n"
-     "--reports picks reports: title, sales. Options and company come from the program directory.",
-     {1, {}, {"-o", "--reports", "--home"}},
+     "...),\n"
+     "and OUT.png itself when there is one page. --reports picks reports: title, sales, cost,\n"
+     "accessories, installer; without it the report options do. --format uses the options and\n"
+     "footnotes of a saved proposal format for this run. Options, formats, pictures and company "
+     "come\nfrom the program directory, which is only read.",
+     {1, {}, {"-o", "--reports", "--format", "--home"}},
      RunReport},
     {"prices",
      "tendo-cli prices BOOK.xls|.xlsx|.csv --into DB.mdb [--replace]",
@@ -53,13 +57,6 @@ void PrintHelp(std::FILE* out) {
         out);
 }
 
-/// One line, whatever the message holds.
-void PrintFailure(const std::string& text) {
-    std::string line = tendo::Replaced(text, "\r", "");
-    line = tendo::Replaced(line, "\n", " ");
-    std::fprintf(stderr, "tendo-cli: %s\n", line.c_str());
-}
-
 int RunVerb(const Verb& verb, const std::vector<std::string>& words) {
     for (const std::string& word : words) {
         if (word != "--help") continue;
@@ -70,16 +67,16 @@ int RunVerb(const Verb& verb, const std::vector<std::string>& words) {
         verb.run(ReadArguments(words, verb.grammar));
         return 0;
     } catch (const UsageError& error) {
-        PrintFailure(std::string(error.what()) + "; usage: " + verb.usage);
+        TellLine(std::string(error.what()) + "; usage: " + verb.usage);
         return 2;
     } catch (const Failure& error) {
-        PrintFailure(error.what());
+        TellLine(error.what());
     } catch (const tendo::RuntimeError& error) {
-        PrintFailure(error.Description() + " (error " + std::to_string(error.Number()) + ")");
+        TellLine(error.Description() + " (error " + std::to_string(error.Number()) + ")");
     } catch (const std::bad_alloc&) {
-        PrintFailure("there is not enough memory for this file");
+        TellLine("there is not enough memory for this file");
     } catch (const std::exception& error) {
-        PrintFailure(error.what());
+        TellLine(error.what());
     }
     return 1;
 }
@@ -98,6 +95,6 @@ int main(int argc, char** argv) {
     }
     for (const Verb& verb : verbs)
         if (name == verb.name) return RunVerb(verb, {argv + 2, argv + argc});
-    PrintFailure("there is no verb " + name + "; tendo-cli --help lists them");
+    TellLine("there is no verb " + name + "; tendo-cli --help lists them");
     return 2;
 }
