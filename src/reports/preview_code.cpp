@@ -8,6 +8,7 @@
 
 #include "footnotes/footnote_markup.h"
 #include "platform/print/document.h"
+#include "platform/print/page_count.h"
 #include "platform/text/date_text.h"
 #include "platform/text/number_text.h"
 #include "platform/text/text.h"
@@ -37,9 +38,11 @@ std::string HeaderText(const ReportContext& context) {
                        Owner().OwnerName + "\\line " + Owner().OwnerPhone + "}||{" +
                        "Velmo Software Development, Inc.\\line " +
                        context.project.GPDProjectFormat.Title.Trimmed() + "\\line";
+    const int before = settings.txtStartingPageNo - 1;
     if (settings.chkPageNumbers == 1)
-        text += " Page " +
-                std::to_string(context.surface.CurrentPage() + settings.txtStartingPageNo - 1);
+        text += " Page " + std::to_string(context.surface.CurrentPage() + before);
+    if (settings.chkPageNumbers == 1 && settings.chkPageCount == 1)
+        text += " of " + PageCountMark(before);
     return text + "}";
 }
 

@@ -78,6 +78,7 @@ constexpr ReportOption Options[] = {
     {General, "chkGraphs", "Graphs", "chkGraphs", "PrintGraphs"},
     {General, "chkColorGraphs", "Graphs in Color", "chkColorGraphs", "ColorGraphs"},
     {General, "chkPageNumbers", "Page Numbers", "chkPageNumbers", "PrintPageNumbers"},
+    {General, "chkPageCount", "Number of Pages (1 of 5)", "chkPageCount", nullptr, 0},
     {General, "chkDate", "Date", "chkDate", "PrintDate"},
     {General, "chkAutoRefresh", "Auto Refresh Print Preview", "chkAutoRefresh", nullptr},
 
@@ -126,7 +127,10 @@ std::span<const ReportOption> ReportOptionTable() {
     return Options;
 }
 
-ReportOptionValues::ReportOptionValues() : marks(std::size(Options), 1) {}
+ReportOptionValues::ReportOptionValues() {
+    for (const ReportOption& option : Options)
+        marks.push_back(option.standard);
+}
 
 std::int16_t& ReportOptionValues::Mark(std::string_view control) {
     for (std::size_t i = 0; i < std::size(Options); ++i)
@@ -138,7 +142,8 @@ ReportOptionValues LoadReportOptions(const ProjectRecords& project) {
     ReportOptionValues values;
     for (std::size_t i = 0; i < std::size(Options); ++i)
         if (Options[i].key)
-            values.marks[i] = Ini().MyGetAppProfileInteger(Section, KeyToRead(Options[i]), 1);
+            values.marks[i] =
+                Ini().MyGetAppProfileInteger(Section, KeyToRead(Options[i]), Options[i].standard);
     values.Mark("chkClientComment") = project.GPDClientFormat.ClientPrintComment;
     values.Mark("chkCompComment") = project.GPDCompanyFormat.CompanyPrintComment;
     values.logoFile = Ini().MyGetAppProfileString(Section, "txtTitlePageLogo", StandardLogo());

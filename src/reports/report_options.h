@@ -23,6 +23,7 @@ struct ReportOption {
     const char* caption;
     const char* key;     // null: a field of the project's general data
     const char* column;  // null: no part of a proposal format
+    std::int16_t standard = 1;
 };
 std::span<const ReportOption> ReportOptionTable();
 

@@ -64,6 +64,7 @@ ReportSettings StoredReportSettings() {
     settings.SecondaryHeader = ReadStyle("SecondaryHeader", standard.SecondaryHeader);
     settings.Body = ReadStyle("Body", standard.Body);
     settings.chkPageNumbers = number("chkPageNumbers", 1);
+    settings.chkPageCount = number("chkPageCount", 0);
     settings.chkDate = number("chkDate", 1);
     settings.chkGraphs = number("chkGraphs", 1);
     settings.chkColorGraphs = number("chkColorGraphs", 1);

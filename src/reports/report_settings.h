@@ -21,6 +21,7 @@ struct ReportTextStyle {
 struct ReportSettings {
     ReportTextStyle MainHeader, SecondaryHeader, Body;
     std::int16_t chkPageNumbers = 1, chkDate = 1, chkGraphs = 1, chkColorGraphs = 1;
+    std::int16_t chkPageCount = 0;  // the number of pages behind the page number
     std::int16_t txtStartingPageNo = 1;
     std::int16_t txtLineSpacing = 100;
 };

@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "platform/print/contrast.h"
+#include "platform/print/page_count.h"
 #include "platform/print/running_fields.h"
 #include "platform/print/table_layout.h"
 
@@ -113,6 +114,7 @@ void LayoutSurface::DoAction(int action) {
         documentOpen_ = true;
     } else if (action == End && documentOpen_) {
         flow_.End();
+        ResolvePageCounts(flow_.Doc(), fonts_);
         documentOpen_ = false;
     } else if (action == Print && onPrint) {
         onPrint(flow_.Doc());
