@@ -179,7 +179,10 @@ void frmMDI::DrawBackground() {
 bool frmMDI::QueryUnload() {
     State().ClosingDown = true;
     State().SaveCancelled = false;  // an earlier cancel, of Open or Close, doesn't stop the exit
-    CloseProjectWindows();
+    if (!CloseProjectWindows()) {
+        State().ClosingDown = false;
+        return false;
+    }
     RunGuarded(SaveWorkFile);
     // A project that its user wants saved and that can't be written keeps the program open.
     const bool asked = RunGuarded(CheckSaveOnClose);

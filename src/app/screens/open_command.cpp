@@ -82,7 +82,7 @@ class OpenCommand {
 
 void OpenCommand::Run() {
     HourglassPointer();
-    CloseProjectWindows();
+    if (!CloseProjectWindows()) return NormalPointer();
     mnuFileClose_Click();
     Next next = Next::Stop;
     if (NameIsReady())

@@ -130,15 +130,18 @@ bool MayReplaceProjectFile() {
 
 }  // namespace
 
-void CloseProjectWindows() {
+bool CloseProjectWindows() {
+    bool closed = true;
     QList<QPointer<Form>> forms;
     for (Form* form : Form::Loaded())
         forms.append(form);
     for (const QPointer<Form>& form : forms) {
         if (!form) continue;
         const QString name = form->Name();
-        if (name != "frmMDI" && name != "frmPrint" && name != "frmExplorer") form->Unload();
+        if (name != "frmMDI" && name != "frmPrint" && name != "frmExplorer")
+            closed = form->Unload() && closed;
     }
+    return closed;
 }
 
 SaveQuestion AskToSaveProject() {
@@ -198,8 +201,7 @@ void WriteLastOpened() {
 
 void mnuFileNew_Click() {
     HourglassPointer();
-    CloseProjectWindows();
-    if (!LeaveOpenProject()) return NormalPointer();
+    if (!CloseProjectWindows() || !LeaveOpenProject()) return NormalPointer();
     ImportFileName().clear();
     try {
         MakeUntitledProject();

@@ -10,8 +10,8 @@ void mnuFileSave_Click();
 void mnuFileSaveAs_Click();
 
 /// Unloads each loaded form but the main window, the print form and the explorer; a form stores
-/// what it holds as it unloads.
-void CloseProjectWindows();
+/// what it holds as it unloads. False when one of them stays, as it holds what can't be stored.
+bool CloseProjectWindows();
 
 /// Whether the user gave up the changes of the open project, and what was asked.
 enum class SaveQuestion { Save, Discard, Stop };

@@ -26,6 +26,9 @@ class EditBar : public QWidget {
     /// The timer, under its name, belongs to the screen.
     static constexpr const char* TimerName = "tmrToolbarTimer";
 
+    /// Shows the tools as the text at the caret is.
+    void ShowState();
+
     // What tools do that takes more than a call of the editor.
     void ImportTextFile();
     void ImportFile(const std::string& file);
@@ -36,8 +39,6 @@ class EditBar : public QWidget {
     void AddTools(QHBoxLayout* line, std::span<const EditTool> tools);
     QToolButton* MakeTool(const EditTool& tool);
     void AddFonts(QHBoxLayout* line);
-    void ShowState();
-
     void SetFont();
     void SetFontSize();
 

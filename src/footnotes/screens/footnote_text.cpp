@@ -18,9 +18,9 @@ FootnoteText::FootnoteText(const Names& names, QWidget* screen) : QWidget(screen
     editor_->setObjectName(names.editor);
     editor_->setAccessibleName(names.spoken);
     editor_->installEventFilter(this);
-    auto* bar = new EditBar(editor_, screen, names.whose);
-    bar->setObjectName(names.bar);
-    column->addWidget(bar);
+    bar_ = new EditBar(editor_, screen, names.whose);
+    bar_->setObjectName(names.bar);
+    column->addWidget(bar_);
     column->addWidget(editor_, 1);  // behind the bar in the order of Tab
     connect(&FootnoteChanges::Instance(), &FootnoteChanges::Coming, this,
             [this](FootnoteMode mode) {
@@ -30,8 +30,9 @@ FootnoteText::FootnoteText(const Names& names, QWidget* screen) : QWidget(screen
 }
 
 void FootnoteText::Show(const std::string& text) {
-    editor_->ShowText(text);
     editor_->setReadOnly(!name_ && !row_);
+    editor_->ShowText(text);
+    bar_->ShowState();
 }
 
 void FootnoteText::ShowNothing() {

@@ -8,6 +8,7 @@
 
 namespace tendo {
 
+class EditBar;
 class RichEditor;
 
 /// The text of one footnote in an editor with its tools, and where it came from: a footnote of the
@@ -53,6 +54,7 @@ class FootnoteText : public QWidget {
     bool StoreLibraryText();
 
     RichEditor* editor_ = nullptr;
+    EditBar* bar_ = nullptr;
     FootnoteMode mode_ = FootnoteMode::Database;
     std::optional<std::string> name_;
     std::optional<std::size_t> row_;

@@ -71,8 +71,9 @@ void frmFootnotes::AddLibrary(QVBoxLayout* column) {
     column->addWidget(add);
     column->addSpacing(8);
     connect(library_, &QListWidget::currentRowChanged, this, [this] { DBLFootNoteName_Click(); });
-    connect(library_, &QListWidget::itemClicked, this, [this] {
-        if (text_->LibraryName() != ChosenName(library_)) DBLFootNoteName_Click();
+    connect(library_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
+        const bool shown = text_->LibraryName() == item->text().toStdString();
+        if (item == library_->currentItem() && !shown) DBLFootNoteName_Click();
     });
     connect(library_, &QListWidget::itemDoubleClicked, this, [this] { btnAddToList_Click(); });
 }
@@ -159,13 +160,16 @@ bool frmFootnotes::QueryUnload() {
 
 void frmFootnotes::DBLFootNoteName_Click() {
     const std::string name = ChosenName(library_);
-    if (!name.empty() && text_->Store())
+    if (!name.empty() && text_->Store()) {
         RunFootnoteCommand([&] { text_->ShowLibraryText(name, LibraryFootnoteText(name)); });
+    } else if (!name.empty()) {
+        const QSignalBlocker quiet(library_);
+        ChooseInLibrary(*text_->LibraryName());  // the editor keeps what it couldn't store
+    }
     ShowSource();
 }
 
 void frmFootnotes::ChooseInLibrary(const std::string& name) {
-    RefreshLibrary();
     const auto found = library_->findItems(QString::fromStdString(name),
                                            Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (!found.isEmpty()) library_->setCurrentItem(found.first());
@@ -174,10 +178,8 @@ void frmFootnotes::ChooseInLibrary(const std::string& name) {
 void frmFootnotes::btnNew_Click() {
     if (!text_->Store()) return;
     const auto name = ShowFootnoteNew(FootnoteMode::Database);
-    if (name)
-        ChooseInLibrary(*name);
-    else
-        RefreshLibrary();
+    RefreshLibrary();
+    if (name) ChooseInLibrary(*name);
 }
 
 void frmFootnotes::btnAddToList_Click() {

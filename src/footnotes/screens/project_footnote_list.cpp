@@ -34,7 +34,12 @@ std::optional<std::size_t> ProjectFootnoteList::Row() const {
 
 void ProjectFootnoteList::ShowChosen() {
     const auto row = Row();
-    if (row && text_->Store()) text_->ShowProjectText(mode_, *row);
+    if (row && text_->Store()) {
+        text_->ShowProjectText(mode_, *row);
+    } else if (row) {
+        const QSignalBlocker quiet(this);
+        setCurrentRow(-1);  // the editor keeps what it couldn't store
+    }
     Q_EMIT Chosen();
 }
 

@@ -192,7 +192,8 @@ QWidget* frmReportOptions::MakePages() {
     tabs_->addTab(footnotes_, "Footnotes");
     tabs_->addTab(accessoryFootnotes_, "Accessory footnotes");
     tabs_->ensurePolished();
-    tabs_->setMinimumWidth(tabs_->tabBar()->sizeHint().width());  // every tab in sight
+    // Every tab in sight, the chosen one's bold name too.
+    tabs_->setMinimumWidth(tabs_->tabBar()->sizeHint().width() + tabs_->fontMetrics().height() * 2);
     return tabs_;
 }
 
