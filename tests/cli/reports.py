@@ -103,8 +103,9 @@ def saved_format():
     expect(f'the format marks no report that is left out: {lines}', lines == [])
     paper = text(out('blue.pdf'))
     for expected, there in (('TENDO SALES PROPOSAL', False), ('Sales Report', True), ('tax included. Good for', True),
-                            ('Microproc', False), ('Compress Warranty:', True), ('Page 2', False)):
+                            ('List Price:', False), ('Compress Warranty:', True), ('Page 3', False)):
         expect(f'{expected} in the format: {not there}', (expected in paper) == there)
+        expect(f'{expected} is on the standard paper: {there}', there or expected in text(out('all.pdf')))
     # The bar behind a heading, E9F3FB; the standard is FFFFC0.
     bars = {name: tool('pdftoppm', '-r', '40', out(name)) for name in ('blue.pdf', 'all.pdf')}
     expect('the format colours', bytes.fromhex('E9F3FB') in bars['blue.pdf'] and
