@@ -2,6 +2,8 @@
 
 #include <QProcess>
 #include <QStandardPaths>
+#include <filesystem>
+#include <sstream>
 
 #include "platform/files/ini_file_handler.h"
 #include "platform/files/profile.h"
@@ -38,10 +40,9 @@ Document PaperTest::LayOut(const PaperJob& job) {
     for (const char* key : {"CompanyRep", "CompanyID", "ClientFax", "CompanyFax", "chkPrintLogo"})
         options.emplace_back(key, "0");
     options.insert(options.end(), job.options.begin(), job.options.end());
-    for (const auto& [key, value] : options)
-        WriteProfileString(Ini().AppProfileFileName, "ReportOptions", key, value);
-    for (const auto& [key, value] : job.banner)
-        WriteProfileString(Ini().AppProfileFileName, "BannerOptions", key, value);
+    std::filesystem::remove(Ini().AppProfileFileName);
+    WriteProfileSection(Ini().AppProfileFileName, "ReportOptions", options);
+    WriteProfileSection(Ini().AppProfileFileName, "BannerOptions", job.banner);
     ReadReportSettings();
     ReportSelection selection;
     selection.title = selection.sales = true;
@@ -66,6 +67,14 @@ std::optional<std::string> AskTool(const char* tool, const QStringList& argument
     EXPECT_EQ(process.exitCode(), 0) << tool;
     EXPECT_EQ(process.readAllStandardError().toStdString(), "") << tool;
     return process.readAllStandardOutput().toStdString();
+}
+
+std::vector<std::string> Words(const std::string& text) {
+    std::istringstream stream(Replaced(text, "|", " "));
+    std::vector<std::string> words;
+    for (std::string word; stream >> word;)
+        words.push_back(word);
+    return words;
 }
 
 std::optional<std::vector<std::string>> PdfPages(const std::string& path, const char* order) {

@@ -35,6 +35,9 @@ class PaperTest : public testing::Test {
 /// the tool are failures.
 std::optional<std::string> AskTool(const char* tool, const QStringList& arguments);
 
+/// The words of a text, in order; the bars between a row's cells part words too.
+std::vector<std::string> Words(const std::string& text);
+
 /// The texts of a PDF's pages as pdftotext finds them, in the order of the file ("-raw") or as
 /// they stand on the paper ("-layout"); nothing without that tool.
 std::optional<std::vector<std::string>> PdfPages(const std::string& path, const char* order);

@@ -1,6 +1,7 @@
 #include "platform/qt/painter_pdf.h"
 
 #include <QBuffer>
+#include <QHashSeed>
 #include <QPainter>
 #include <QPdfWriter>
 
@@ -33,6 +34,16 @@ void StampDate(QByteArray& pdf, const DateTime& date) {
         pdf.replace(at + DateKey.size(), text.size(), text);
 }
 
+/// Qt numbers fonts in the order of a hash table, whose seed is another one in each run. A fixed
+/// one makes files alike; tables made under it keep working when it goes.
+class FixedHashSeed {
+  public:
+    FixedHashSeed() { QHashSeed::setDeterministicGlobalSeed(); }
+    ~FixedHashSeed() { QHashSeed::resetRandomGlobalSeed(); }
+    FixedHashSeed(const FixedHashSeed&) = delete;
+    FixedHashSeed& operator=(const FixedHashSeed&) = delete;
+};
+
 void PaintPages(QPdfWriter& writer, const Document& document) {
     QPainter painter(&writer);
     for (int page = 0; page < static_cast<int>(document.pages.size()); ++page) {
@@ -48,6 +59,7 @@ std::string PdfBytes(const Document& document) {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     {
+        const FixedHashSeed seed;
         QPdfWriter writer(&buffer);
         writer.setResolution(TwipsPerInch);
         writer.setPageSize(QPageSize(QPageSize::Letter));
