@@ -1,5 +1,6 @@
 #include "reports/package.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -28,6 +29,12 @@ bool IsChosen(const ReportSelection& selection, const char* option) {
 }
 
 }  // namespace
+
+bool AnyReportIsMarked() {
+    return std::any_of(SelectionKeys.begin(), SelectionKeys.end(), [](const SelectionKey& entry) {
+        return ReportOptionIsOn(entry.option.data());
+    });
+}
 
 void SetDocumentNames(Document& document, const ProjectRecords& project) {
     document.title = project.GPDProjectFormat.Title.Trimmed();

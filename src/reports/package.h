@@ -21,6 +21,9 @@ Document BuildReportPackage(ProjectRecords& project, TextMeasurer& measurer,
                             const std::optional<ReportSelection>& selection = {},
                             std::vector<std::string>* problems = nullptr);
 
+/// Whether the report options have any report printed.
+bool AnyReportIsMarked();
+
 /// Title and author of a project's document.
 void SetDocumentNames(Document& document, const ProjectRecords& project);
 

@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 
 #include "platform/files/paths.h"
@@ -30,6 +31,29 @@ bool StartDetached(const std::string& program) {
     return QProcess::startDetached(QString::fromStdString(program), {});
 }
 
+/// The process is its own owner: it goes on when this program ends before it.
+bool RunAside(const std::string& program, const std::vector<std::string>& arguments,
+              const std::function<void(int)>& ended) {
+    const QString file = QStandardPaths::findExecutable(QString::fromStdString(program));
+    if (file.isEmpty()) return false;
+    QStringList words;
+    for (const std::string& argument : arguments)
+        words << QString::fromStdString(argument);
+    auto* process = new QProcess;
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->setStandardOutputFile(QProcess::nullDevice());
+    process->setStandardErrorFile(QProcess::nullDevice());
+    QObject::connect(process, &QProcess::finished, process,
+                     [process, ended](int status, QProcess::ExitStatus how) {
+                         process->deleteLater();
+                         ended(how == QProcess::NormalExit ? status : -1);
+                     });
+    process->start(file, words);
+    if (process->waitForStarted()) return true;
+    delete process;
+    return false;
+}
+
 /// What the desktop's window tool answers; empty when there is no such tool.
 std::string WindowTool(const QStringList& arguments) {
     QProcess tool;
@@ -51,7 +75,7 @@ bool ActivateWindow(const std::string& title) {
 }  // namespace
 
 ShellService& Shell() {
-    static ShellService shell{OpenOnDesktop, ActivateWindow, StartDetached};
+    static ShellService shell{OpenOnDesktop, ActivateWindow, StartDetached, RunAside};
     return shell;
 }
 

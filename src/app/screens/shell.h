@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace tendo {
 
@@ -15,6 +16,11 @@ struct ShellService {
     std::function<bool(const std::string& title)> Activate;
     /// Starts a program by its file name; false when it couldn't be started.
     std::function<bool(const std::string& program)> Start;
+    /// Starts a program of the search path with its arguments; `ended` is called with its exit
+    /// status when it ends while this program runs. False when there is no such program.
+    std::function<bool(const std::string& program, const std::vector<std::string>& arguments,
+                       const std::function<void(int status)>& ended)>
+        Run;
 };
 ShellService& Shell();
 

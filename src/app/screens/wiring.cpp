@@ -7,6 +7,7 @@
 #include "app/screens/frm_status.h"
 #include "app/screens/frm_tip.h"
 #include "app/screens/screen_table.h"
+#include "app/screens/shell.h"
 #include "equipment/screens/frm_detail_model_data.h"
 #include "equipment/screens/frm_model_selection.h"
 #include "equipment/screens/frm_wh_info.h"
@@ -26,6 +27,7 @@
 #include "project/screens/frm_gpd.h"
 #include "reports/screens/frm_preview.h"
 #include "reports/screens/frm_report_options.h"
+#include "reports/screens/report_desk.h"
 
 namespace tendo {
 namespace {
@@ -77,6 +79,15 @@ void WireMaterials() {
     RegisterProcedure("mnuConvertMaterialsFromExcelToAccess_Click", ImportMaterialsFromExcel);
 }
 
+void WireReports() {
+    const auto run = [](const std::string& program, const std::vector<std::string>& arguments,
+                        const std::function<void(int)>& ended) {
+        return Shell().Run(program, arguments, ended);
+    };
+    DeskOfReports().Run = run;
+    RegisterProcedure("mnuFilePreview_Click", ShowPreview);
+}
+
 void WirePricing() {
     PricingScreens().ScreenExists = ScreenExists;
     PricingScreens().ShowScreen = ShowScreen;
@@ -94,7 +105,6 @@ void WireRooms() {
     Hooks().LoadMaterialCatalogue = [] { LoadMaterialCatalogue(); };
     CatalogueHooks().Message = [](const std::string& text) { ShowMessage("TENDO", text); };
     CatalogueHooks().EnableTool = [](const std::string& tool) { MainBar().SetEnabled(tool, true); };
-    RegisterProcedure("mnuFilePreview_Click", ShowPreview);
     RegisterProcedure("mnuProjectMaterialLists_Click",
                       [] { ShowListAddDelete(ListKind::Material); });
     RegisterProcedure("mnuProjectLaborLists_Click", [] { ShowListAddDelete(ListKind::Labor); });
@@ -107,6 +117,7 @@ void WireRooms() {
     WireProgress();
     WireMaterials();
     WirePricing();
+    WireReports();
     EnterScreens();
 }
 

@@ -110,12 +110,18 @@ QImage PageImage(const Document& document, int page, double dpi) {
     return image;
 }
 
+std::string PagePngName(const std::string& path, int page) {
+    return DirectoryOf(path) + StemOf(path) + "-" + std::to_string(page + 1) + ExtensionOf(path);
+}
+
+void WritePagePng(const Document& document, int page, const std::string& path, double dpi) {
+    SavePng(PageImage(document, page, dpi), path);
+}
+
 void WritePng(const Document& document, const std::string& path, double dpi) {
-    for (int page = 0; page < static_cast<int>(document.pages.size()); ++page) {
-        const std::string name =
-            DirectoryOf(path) + StemOf(path) + "-" + std::to_string(page + 1) + ExtensionOf(path);
-        SavePng(PageImage(document, page, dpi), document.pages.size() == 1 ? path : name);
-    }
+    const bool single = document.pages.size() == 1;
+    for (int page = 0; page < static_cast<int>(document.pages.size()); ++page)
+        WritePagePng(document, page, single ? path : PagePngName(path, page), dpi);
 }
 
 }  // namespace tendo

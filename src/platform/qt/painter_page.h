@@ -15,6 +15,13 @@ void PaintPage(QPainter& painter, const Document& document, int page, double sca
 /// The page on white paper at `dpi` dots an inch.
 QImage PageImage(const Document& document, int page, double dpi);
 
+/// The name of one of several pictures of pages: "-1", "-2" ... ahead of the extension for `page`
+/// 0, 1 ...
+std::string PagePngName(const std::string& path, int page);
+
+/// Writes one page as PNG. Throws the RuntimeErrors of `ReplaceFile`.
+void WritePagePng(const Document& document, int page, const std::string& path, double dpi);
+
 /// Writes pages as PNG: one page under the path itself, of more than one each with "-1", "-2" ...
 /// ahead of the extension. Throws RuntimeError 70 when a file can't be written.
 void WritePng(const Document& document, const std::string& path, double dpi);

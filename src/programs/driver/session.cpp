@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QStandardPaths>
 #include <QUrl>
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 
@@ -44,6 +45,15 @@ void Session::RecordShellCalls() {
     Shell().Start = [this](const std::string& program) {
         shellCalls.push_back("start " + program);
         return !QStandardPaths::findExecutable(QString::fromStdString(program)).isEmpty();
+    };
+    Shell().Run = [this](const std::string& program, const std::vector<std::string>& arguments,
+                         const std::function<void(int)>&) {
+        std::string call = "run " + program;
+        for (const std::string& argument : arguments)
+            call += " " + argument;
+        shellCalls.push_back(call);
+        return std::find(missingPrograms.begin(), missingPrograms.end(), program) ==
+               missingPrograms.end();
     };
 }
 

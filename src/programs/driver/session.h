@@ -80,9 +80,11 @@ class Session {
     ScriptedDialogs& Dialogs_() { return *dialogs_; }
     std::vector<FormAnswer>& FormAnswers() { return formAnswers_; }
     /// What the program asked of the desktop, in order: "open TARGET", "activate TITLE", "start
-    /// PROGRAM". Nothing of it is done.
+    /// PROGRAM", "run PROGRAM ARGUMENTS". Nothing of it is done.
     std::vector<std::string> shellCalls;
     std::size_t shellCallsLooked = 0;  // calls before this one were looked at by `expect shell`
+    /// Programs that are not installed, as the script says.
+    std::vector<std::string> missingPrograms;
     /// The document and call log searches of `expect surface`.
     std::size_t surfaceAt = 0;
 

@@ -188,6 +188,13 @@ Json StartCommand(Session& session, const Words&) {
     return nullptr;
 }
 
+/// A program that the desktop shall not have.
+Json MissingCommand(Session& session, const Words& words) {
+    MustHave(words, 2, "missing PROGRAM");
+    session.missingPrograms.push_back(words[1]);
+    return nullptr;
+}
+
 Json KillCommand(Session&, const Words&) {
     std::raise(SIGKILL);
     return nullptr;
@@ -236,6 +243,7 @@ void AddStateCommands(std::map<std::string, Command>& commands) {
     commands["copy"] = CopyCommand;
     commands["quit"] = QuitCommand;
     commands["start"] = StartCommand;
+    commands["missing"] = MissingCommand;
     commands["kill"] = KillCommand;
 }
 

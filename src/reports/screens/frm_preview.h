@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/qt/form.h"
 
 namespace tendo {
@@ -15,12 +17,17 @@ class FrmPreview : public Form {
     /// Runs all marked reports and shows the first page.
     void ShowAllReports();
 
-    QSize sizeHint() const override { return {980, 1080}; }
+    QSize sizeHint() const override { return {1060, 1080}; }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void AddOutputs();
+    void AddPictures();
+    void Tell(const std::string& note);
+    void Press(const char* tool);
+
     PreviewPane* pane_ = nullptr;
 };
 

@@ -1,33 +1,50 @@
 #include "reports/screens/preview_pane.h"
 
 #include <QApplication>
-#include <QComboBox>
-#include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
-#include <QScrollArea>
-#include <QScrollBar>
+#include <QSplitter>
+#include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "platform/files/settings_store.h"
 #include "platform/qt/form.h"
-#include "platform/qt/icons.h"
-#include "reports/generate_reports.h"
+#include "platform/text/runtime_error.h"
 #include "reports/package.h"
+#include "reports/preview_entries.h"
+#include "reports/screens/find_bar.h"
+#include "reports/screens/page_thumbnails.h"
 #include "reports/screens/page_view.h"
 
 namespace tendo {
 namespace {
 
-constexpr int SmallestZoom = 10, LargestZoom = 400;
-const int zoomChoices[] = {25, 50, 75, 100, 125, 150, 175, 200};
+constexpr const char* SettingsSection = "frmPreview";
+constexpr const char* ThumbnailsKey = "Thumbnails";
 
-QHBoxLayout* AddLine(QVBoxLayout* lines) {
-    auto* line = new QHBoxLayout;
-    line->setSpacing(4);
-    lines->addLayout(line);
-    return line;
+/// A strip of text above the page, which can be marked and copied; hidden while it is empty.
+QLabel* MakeStrip(const char* name, const char* spoken, QWidget* parent) {
+    auto* strip = new QLabel(parent);
+    strip->setObjectName(name);
+    strip->setAccessibleName(spoken);
+    strip->setWordWrap(true);
+    strip->setTextFormat(Qt::PlainText);
+    strip->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    strip->setProperty("strip", true);
+    strip->hide();
+    return strip;
+}
+
+void ShowStrip(QLabel* strip, const QString& text) {
+    strip->setText(text);
+    strip->setVisible(!text.isEmpty());
+}
+
+QString Joined(const std::vector<std::string>& lines) {
+    QStringList texts;
+    for (const std::string& line : lines)
+        texts << QString::fromStdString(line);
+    return texts.join('\n');
 }
 
 }  // namespace
@@ -37,179 +54,179 @@ PreviewPane::PreviewPane(std::span<const ReportChoice> choices, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
+    tools_ = new PreviewTools(choices, this);
+    column->addWidget(tools_);
+    column->addWidget(MakeStrips());
+    splitter_ = new QSplitter(Qt::Horizontal, this);
+    splitter_->setChildrenCollapsible(false);
     view_ = new PageView;
     view_->setObjectName("vsPreview");
-    column->addWidget(MakeToolbar());
-    viewPort_ = new QScrollArea(this);
-    viewPort_->setObjectName("ViewPort");
-    viewPort_->setWidgetResizable(true);
-    viewPort_->setFocusPolicy(Qt::NoFocus);
-    viewPort_->setWidget(view_);
-    column->addWidget(viewPort_, 1);
-    connect(view_, &PageView::ZoomWanted, this,
-            [this](int change) { ZoomTo(view_->Zoom() + change); });
+    stack_ = new QStackedWidget(splitter_);
+    scroller_ = new PageScroller(view_, stack_);
+    stack_->addWidget(scroller_);
+    stack_->addWidget(MakeEmptyPage());
+    column->addWidget(splitter_, 1);
+    connect(tools_, &PreviewTools::ReportChosen, this, &PreviewPane::RunReport);
+    connect(tools_, &PreviewTools::RefreshWanted, this, &PreviewPane::Refresh);
+    connect(tools_, &PreviewTools::ZoomTyped, this, &PreviewPane::ZoomTo);
+    connect(tools_, &PreviewTools::FitChosen, this, &PreviewPane::FitTo);
+    connect(tools_, &PreviewTools::PageTyped, this, &PreviewPane::ShowPage);
+    connect(tools_, &PreviewTools::TurnWanted, this, &PreviewPane::Turn);
+    const auto zoomBy = [this](int change, QPoint at) { ZoomAround(view_->Zoom() + change, at); };
+    connect(view_, &PageView::ZoomWanted, this, zoomBy);
+    connect(scroller_, &PageScroller::ZoomWanted, this, zoomBy);
+    connect(scroller_, &PageScroller::Resized, this, &PreviewPane::ApplyFit);
+    connect(scroller_, &PageScroller::TurnWanted, this, [this](int pages) {
+        Turn(pages);
+        if (pages < 0) scroller_->GoToFoot();
+    });
 }
 
-QToolButton* PreviewPane::MakeTool(const char* name, const char* icon, const QString& text,
-                                   std::function<void()> run) {
-    auto* tool = new QToolButton(this);
-    tool->setObjectName(name);
-    tool->setIcon(LineIcon(icon));
-    tool->setIconSize(QSize(20, 20));
-    tool->setAutoRaise(true);
-    tool->setToolTip(text);
-    tool->setAccessibleName(text);
-    connect(tool, &QToolButton::clicked, this, std::move(run));
-    return tool;
+QWidget* PreviewPane::MakeStrips() {
+    auto* strips = new QWidget(this);
+    auto* column = new QVBoxLayout(strips);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    lblProblems_ = MakeStrip("lblProblems", "Problems of the reports", strips);
+    lblProblems_->setProperty("problem", true);
+    lblNote_ = MakeStrip("lblNote", "Note", strips);
+    column->addWidget(lblProblems_);
+    column->addWidget(lblNote_);
+    return strips;
 }
 
-void PreviewPane::AddTool(const char* name, const char* icon, const QString& text,
-                          std::function<void()> run) {
-    tools_->addWidget(MakeTool(name, icon, text, std::move(run)));
+QWidget* PreviewPane::MakeEmptyPage() {
+    auto* empty = new QWidget(stack_);
+    auto* column = new QVBoxLayout(empty);
+    lblNoPages_ = new QLabel(empty);
+    lblNoPages_->setObjectName("lblNoPages");
+    lblNoPages_->setAccessibleName("No pages");
+    lblNoPages_->setAlignment(Qt::AlignCenter);
+    lblNoPages_->setWordWrap(true);
+    lblNoPages_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    lblNoPages_->setProperty("quiet", true);
+    column->addWidget(lblNoPages_);
+    return empty;
 }
 
-QWidget* PreviewPane::MakeToolbar() {
-    auto* bar = new QWidget(this);
-    auto* lines = new QVBoxLayout(bar);
-    lines->setContentsMargins(8, 8, 8, 8);
-    lines->setSpacing(4);
-    tools_ = AddLine(lines);
-    reportName_ = new QComboBox(bar);
-    reportName_->setObjectName("ToolReportName");
-    for (const ReportChoice& choice : choices_)
-        reportName_->addItem(choice.name);
-    connect(reportName_, &QComboBox::activated, this, &PreviewPane::RunReport);
-    AddLabelled("&Report:", reportName_);
-    AddZoom();
-    if (IsNarrow()) {
-        tools_->addStretch(1);
-        tools_ = AddLine(lines);
-    }
-    AddPages();
-    tools_->addStretch(1);
-    AddTool("ToolRefresh", "refresh", "Write the report anew (F5)", [this] { Refresh(); });
-    return bar;
+void PreviewPane::AddThumbnails() {
+    thumbnails_ = new PageThumbnails(splitter_);
+    splitter_->insertWidget(0, thumbnails_);
+    splitter_->setStretchFactor(0, 0);
+    splitter_->setStretchFactor(1, 1);
+    const bool shown = Settings().GetSetting(SettingsSection, ThumbnailsKey, "1") == "1";
+    QToolButton* tool =
+        tools_->AddTool({"ToolThumbnails", "thumbnails", "Show all pages at the side (F4)"});
+    tool->setCheckable(true);
+    tool->setChecked(shown);
+    thumbnails_->setVisible(shown);
+    connect(tool, &QToolButton::toggled, this, [this](bool on) {
+        thumbnails_->setVisible(on);
+        if (!on && !view_->hasFocus()) FocusPage();
+        try {
+            Settings().SaveSetting(SettingsSection, ThumbnailsKey, on ? "1" : "0");
+        } catch (const RuntimeError&) {
+            // The list is as it was wanted; only the next start won't know.
+        }
+    });
+    connect(thumbnails_, &PageThumbnails::PageChosen, this, &PreviewPane::ShowPage);
 }
 
-void PreviewPane::AddLabelled(const QString& text, QWidget* control) {
-    auto* label = new QLabel(text, this);
-    label->setProperty("quiet", true);
-    label->setBuddy(control);
-    tools_->addWidget(label);
-    tools_->addWidget(control);
-    tools_->addSpacing(8);
-}
-
-void PreviewPane::AddZoom() {
-    zoom_ = new QComboBox(this);
-    zoom_->setObjectName("ToolZoom");
-    zoom_->setEditable(true);
-    for (const int percent : zoomChoices)
-        zoom_->addItem(QString::number(percent));
-    connect(zoom_, &QComboBox::textActivated, this, &PreviewPane::ZoomToTyped);
-    connect(zoom_->lineEdit(), &QLineEdit::editingFinished, this, &PreviewPane::ZoomToTyped);
-    zoom_->setEditText("100");
-    AddLabelled("&Zoom:", zoom_);
-}
-
-void PreviewPane::AddPages() {
-    pageNumber_ = new QLineEdit("1", this);
-    pageNumber_->setObjectName("ToolPageNumber");
-    pageNumber_->setMaximumWidth(fontMetrics().horizontalAdvance("0000") + 28);
-    pageNumber_->setAlignment(Qt::AlignRight);
-    connect(pageNumber_, &QLineEdit::editingFinished, this, &PreviewPane::GoToTypedPage);
-    AddLabelled("&Page:", pageNumber_);
-    pageCount_ = new QLabel(this);
-    pageCount_->setObjectName("lblPageCount");
-    pageCount_->setProperty("quiet", true);
-    tools_->addWidget(pageCount_);
-    previous_ = MakeTool("ToolPreviousPage", "previous", "Previous page (Page Up)",
-                         [this] { ShowPage(page_ - 1); });
-    next_ =
-        MakeTool("ToolNextPage", "next", "Next page (Page Down)", [this] { ShowPage(page_ + 1); });
-    tools_->addWidget(previous_);
-    tools_->addWidget(next_);
+void PreviewPane::AddSearch() {
+    find_ = new FindBar(this);
+    static_cast<QVBoxLayout*>(layout())->insertWidget(1, find_);
+    find_->hide();
+    tools_->AddTool({"ToolFind", "search", "Find a text (Ctrl+F)"}, [this] { OpenSearch(); });
+    connect(find_, &FindBar::WantedChanged, this, &PreviewPane::Find);
+    connect(find_, &FindBar::StepWanted, this, &PreviewPane::StepToMatch);
+    connect(find_, &FindBar::Closed, this, &PreviewPane::CloseSearch);
 }
 
 void PreviewPane::RunReport(int index) {
+    const ReportChoice& choice = choices_[static_cast<std::size_t>(index)];
+    if (!choice.IsWritten()) return tools_->ShowReport(tools_->ChosenReport());
     const Hourglass pointer;
-    reportName_->setCurrentIndex(index);
+    tools_->ShowReport(index);
     if (BeforeRun) BeforeRun();
     Form::StoreAllFields();
-    const ReportChoice& choice = choices_[static_cast<std::size_t>(index)];
     bool started = true;
-    document_ = RunReports([&](ReportContext& context) { started = choice.run(context); }).document;
-    if (!started) QApplication::beep();
-    SetDocumentNames(document_, Project());
+    const ReportRun& run =
+        RunReports([&](ReportContext& context) { started = choice.run(context); });
+    if (!started) return QApplication::beep();
+    Document document = run.document;
+    SetDocumentNames(document, Project());
+    ShowDocument(std::move(document), run.problems);
+}
+
+void PreviewPane::ShowDocument(Document document, const std::vector<std::string>& problems) {
+    document_ = std::move(document);
     page_ = 0;
+    view_->ShowDocument(&document_);
+    if (thumbnails_) thumbnails_->ShowDocument(&document_);
+    ShowStrip(lblProblems_, Joined(problems));
+    ShowNote({});
+    lblNoPages_->setText(AnyReportIsMarked()
+                             ? "The marked reports have nothing to print for this project."
+                             : "No report is marked. Mark reports under Reports > Report Options.");
+    stack_->setCurrentIndex(PageCount() > 0 ? 0 : 1);
     ShowPage(0);
+    if (find_ && find_->isVisible()) Find();
 }
 
 void PreviewPane::Refresh() {
+    const int index = tools_->ChosenReport();
+    if (!choices_[static_cast<std::size_t>(index)].refreshes) return;
     const int page = page_;
-    RunReport(reportName_->currentIndex());
+    RunReport(index);
     ShowPage(std::min(page, PageCount() - 1));
 }
 
 void PreviewPane::ShowPage(int page) {
     if (PageCount() > 0 && (page < 0 || page >= PageCount())) return;
     page_ = std::max(page, 0);
-    view_->ShowPage(&document_, page_);
-    viewPort_->verticalScrollBar()->setValue(0);
-    pageNumber_->setText(QString::number(page_ + 1));
-    pageCount_->setText(QString("of %1").arg(PageCount()));
-    previous_->setEnabled(page_ > 0);
-    next_->setEnabled(page_ + 1 < PageCount());
+    view_->ShowPage(page_);
+    if (thumbnails_) thumbnails_->ShowPage(page_);
+    scroller_->Arrange();
+    scroller_->GoToTop();
+    tools_->ShowPage(page_, PageCount());
+    ShowMatches();
 }
 
-void PreviewPane::GoToTypedPage() {
-    bool number = false;
-    const int page = pageNumber_->text().toInt(&number);
-    if (number && page >= 1 && page <= PageCount())
-        ShowPage(page - 1);
-    else
-        pageNumber_->setText(QString::number(page_ + 1));
+void PreviewPane::Turn(int pages) {
+    ShowPage(page_ + pages);
 }
 
 void PreviewPane::ZoomTo(int percent) {
-    const int zoom = std::clamp(percent, SmallestZoom, LargestZoom);
-    view_->SetZoom(zoom);
-    zoom_->setEditText(QString::number(zoom));
+    ZoomAround(percent, scroller_->Middle());
 }
 
-void PreviewPane::ZoomToTyped() {
-    bool number = false;
-    const int percent = zoom_->currentText().remove('%').toInt(&number);
-    if (number && percent == view_->Zoom()) return;
-    ZoomTo(number && percent > 0 ? percent : view_->Zoom());
+void PreviewPane::ZoomAround(int percent, QPoint at) {
+    fit_ = PageFit::None;
+    tools_->ShowFit(fit_);
+    scroller_->ZoomTo(std::clamp(percent, SmallestZoom, LargestZoom), at);
+    tools_->ShowZoom(view_->Zoom());
 }
 
-bool PreviewPane::HandleKey(const QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_PageUp:
-            ShowPage(page_ - 1);
-            return true;
-        case Qt::Key_PageDown:
-            ShowPage(page_ + 1);
-            return true;
-        case Qt::Key_Home:
-            ShowPage(0);
-            return true;
-        case Qt::Key_End:
-            ShowPage(PageCount() - 1);
-            return true;
-        case Qt::Key_F5:
-            Refresh();
-            return true;
-        case Qt::Key_Plus:
-            ZoomTo(view_->Zoom() + 10);
-            return true;
-        case Qt::Key_Minus:
-            ZoomTo(view_->Zoom() - 10);
-            return true;
-        default:
-            return false;
-    }
+void PreviewPane::FitTo(PageFit fit) {
+    fit_ = fit;
+    tools_->ShowFit(fit);
+    ApplyFit();
+}
+
+void PreviewPane::ApplyFit() {
+    if (fit_ == PageFit::None) return;
+    const int zoom = scroller_->ZoomOfFit(fit_);
+    if (zoom == view_->Zoom()) return;
+    scroller_->ZoomTo(zoom, scroller_->Middle());
+    tools_->ShowZoom(zoom);
+}
+
+void PreviewPane::FocusPage() {
+    view_->setFocus(Qt::OtherFocusReason);
+}
+
+void PreviewPane::ShowNote(const QString& text) {
+    ShowStrip(lblNote_, text);
 }
 
 }  // namespace tendo

@@ -4,26 +4,20 @@
 #include <functional>
 #include <span>
 
+#include "reports/screens/preview_search.h"
+#include "reports/screens/preview_tools.h"
 #include "reports/screens/report_run.h"
 
-class QComboBox;
-class QHBoxLayout;
 class QKeyEvent;
 class QLabel;
-class QLineEdit;
-class QScrollArea;
-class QToolButton;
+class QSplitter;
+class QStackedWidget;
 
 namespace tendo {
 
+class FindBar;
+class PageThumbnails;
 class PageView;
-class ReportContext;
-
-/// An entry of a preview's report list and what it runs; false when no document could be started.
-struct ReportChoice {
-    const char* name;
-    bool (*run)(ReportContext&);
-};
 
 /// A document of reports, a page at a time, under a bar of tools; the tools are controls of the
 /// screen under the names of the preview toolbar.
@@ -35,47 +29,61 @@ class PreviewPane : public QWidget {
     /// What runs ahead of every report, before the fields of all screens are stored.
     std::function<void()> BeforeRun;
 
-    /// One more tool at the right end of the bar.
-    void AddTool(const char* name, const char* icon, const QString& text,
-                 std::function<void()> run);
+    PreviewTools& Tools() { return *tools_; }
+    /// The side list of pages and the search, which a preview in narrow room goes without.
+    void AddThumbnails();
+    void AddSearch();
 
     /// Runs a report of the list and shows its first page.
     void RunReport(int index);
-    /// Runs the chosen report again and stays on its page.
+    /// Runs the chosen report again, where the list says so, and stays on its page.
     void Refresh();
-    /// Page, zoom and refresh keys; false for any other.
+    /// Page, zoom, search and refresh keys; false for any other.
     bool HandleKey(const QKeyEvent& event);
     void ZoomTo(int percent);
+    void FitTo(PageFit fit);
+    void FocusPage();
+    /// A line above the page that tells what was done; empty: none.
+    void ShowNote(const QString& text);
     const Document& ShownDocument() const { return document_; }
     /// From 0.
     int ShownPage() const { return page_; }
 
   private:
-    /// Beside the options it stands in narrow room: its tools take two lines.
-    bool IsNarrow() const { return choices_.size() == 1; }
-    QWidget* MakeToolbar();
-    void AddLabelled(const QString& text, QWidget* control);
-    void AddZoom();
-    void AddPages();
-    QToolButton* MakeTool(const char* name, const char* icon, const QString& text,
-                          std::function<void()> run);
+    QWidget* MakeStrips();
+    QWidget* MakeEmptyPage();
+    void ShowDocument(Document document, const std::vector<std::string>& problems);
     void ShowPage(int page);
-    void GoToTypedPage();
-    void ZoomToTyped();
+    void ZoomAround(int percent, QPoint at);
+    void ApplyFit();
+    void Turn(int pages);
+    bool ScrollOrTurn(Qt::Orientation orientation, int direction, int by);
+    bool HandlePageKey(const QKeyEvent& event);
+    bool HandleScrollKey(const QKeyEvent& event);
+    bool HandleZoomKey(const QKeyEvent& event);
+    bool HandleSearchKey(const QKeyEvent& event);
+    void OpenSearch();
+    void CloseSearch();
+    void Find();
+    void StepToMatch(int direction);
+    void ShowMatches();
     int PageCount() const { return static_cast<int>(document_.pages.size()); }
 
     std::span<const ReportChoice> choices_;
     Document document_;
     int page_ = 0;
-    QHBoxLayout* tools_ = nullptr;
-    QComboBox* reportName_ = nullptr;
-    QComboBox* zoom_ = nullptr;
-    QLineEdit* pageNumber_ = nullptr;
-    QLabel* pageCount_ = nullptr;
-    QToolButton* previous_ = nullptr;
-    QToolButton* next_ = nullptr;
+    PageFit fit_ = PageFit::None;
+    PreviewSearch search_;
+    PreviewTools* tools_ = nullptr;
+    QLabel* lblProblems_ = nullptr;
+    QLabel* lblNote_ = nullptr;
+    FindBar* find_ = nullptr;
+    QSplitter* splitter_ = nullptr;
+    PageThumbnails* thumbnails_ = nullptr;
+    QStackedWidget* stack_ = nullptr;
+    QLabel* lblNoPages_ = nullptr;
     PageView* view_ = nullptr;
-    QScrollArea* viewPort_ = nullptr;
+    PageScroller* scroller_ = nullptr;
 };
 
 }  // namespace tendo

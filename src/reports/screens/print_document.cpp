@@ -8,7 +8,7 @@
 #include "platform/qt/form.h"
 #include "platform/qt/painter_printer.h"
 #include "platform/qt/progress_window.h"
-#include "reports/screens/report_run.h"
+#include "reports/screens/export_document.h"
 
 namespace tendo {
 namespace {
@@ -46,7 +46,7 @@ bool OfferPdf(const Document& document) {
                "instead, to be printed elsewhere or sent by e-mail.\n\nSave them as a PDF file "
                "now?",
                Buttons::OkCancel) == Answer::Ok &&
-           ExportDocument(document);
+           !ExportPdf(document).empty();
 }
 
 /// Shows the window once the job proves to be a long one.

@@ -132,14 +132,15 @@ frmReportOptions::frmReportOptions()
 PreviewPane* frmReportOptions::MakePreview() {
     auto* pane = new PreviewPane(allReports, this);
     pane->BeforeRun = [this] { Save(); };
-    pane->AddTool("ToolPrintReports", "print", "Print...", [pane] {
+    pane->Tools().AddTool({"ToolPrintReports", "print", "Print..."}, [pane] {
         pane->Refresh();
         PrintDocument(pane->ShownDocument(), pane->ShownPage());
     });
-    pane->AddTool("ToolPreviewReports", "preview", "Preview in a window of its own", [this] {
-        Save();
-        ShowPreview();
-    });
+    pane->Tools().AddTool({"ToolPreviewReports", "preview", "Preview in a window of its own"},
+                          [this] {
+                              Save();
+                              ShowPreview();
+                          });
     return pane;
 }
 

@@ -24,8 +24,4 @@ const ReportRun& RunReports(const std::function<void(ReportContext&)>& reports);
 /// Empty before the first run.
 const ReportRun& LastReportRun();
 
-/// Asks for a file and writes the document as PDF; a failure is told. False when nothing was
-/// written.
-bool ExportDocument(const Document& document);
-
 }  // namespace tendo
