@@ -26,9 +26,9 @@ void Run(ReportContext& context, const char* name, ReportProcedure report) {
     }
 }
 
-ReportProcedure CostReport(const ReportContext& context) {
-    return context.isMarked("chkShowDealersCost") ? Reports().PrintDetailedCostReport
-                                                  : Reports().PrintCustomerCostReport;
+ReportProcedure CostReport(const ReportContext& context, const ReportProcedures& procedures) {
+    return context.isMarked("chkShowDealersCost") ? procedures.PrintDetailedCostReport
+                                                  : procedures.PrintCustomerCostReport;
 }
 
 bool PreviewOnly(ReportContext& context, const char* name, ReportProcedure report) {
@@ -46,7 +46,7 @@ const ReportProcedures& Reports() {
     return procedures;
 }
 
-void GenerateReports(ReportContext& context) {
+void GenerateReports(ReportContext& context, const ReportProcedures& procedures) {
     const auto marked = [&](const char* key) { return context.isMarked(key); };
     // Only the Title and the Sales Report push what follows to a new page: meant so.
     const auto breakPage = [&] {
@@ -60,7 +60,7 @@ void GenerateReports(ReportContext& context) {
         if (marked("chkPrintTitleReport")) context.surface.NewPage();
         Run(context, SalesName, PrintSalesReport);
     }
-    if (const ReportProcedure report = CostReport(context);
+    if (const ReportProcedure report = CostReport(context, procedures);
         report && marked("chkPrintDetailedCostReport")) {
         context.SuppressNextPageHeader = true;
         breakPage();
@@ -72,8 +72,8 @@ void GenerateReports(ReportContext& context) {
         Run(context, name, report);
     };
     print("chkPrintOptionalAccessoriesRpt", AccessoriesName,
-          Reports().PrintOptionalAccessoriesReport);
-    print("chkPrintInstallersReport", InstallersName, Reports().PrintInstallersReport);
+          procedures.PrintOptionalAccessoriesReport);
+    print("chkPrintInstallersReport", InstallersName, procedures.PrintInstallersReport);
     context.surface.Action(EndDocument);
 }
 
@@ -86,7 +86,7 @@ bool PreviewSalesOnly(ReportContext& context) {
 }
 
 bool PreviewCostOnly(ReportContext& context) {
-    return PreviewOnly(context, CostName, CostReport(context));
+    return PreviewOnly(context, CostName, CostReport(context, Reports()));
 }
 
 bool PreviewAccessoriesOnly(ReportContext& context) {

@@ -18,7 +18,7 @@ const ReportProcedures& Reports();
 
 /// Writes all marked reports as one document. A report that meets an error ends there and is told
 /// of in `context.Problems`; what it wrote stays, and the reports behind it follow.
-void GenerateReports(ReportContext& context);
+void GenerateReports(ReportContext& context, const ReportProcedures& procedures = Reports());
 
 /// One report alone. False, with nothing written, when the surface can't start a document: the
 /// caller beeps.

@@ -96,6 +96,42 @@ TEST_F(GeneratedReports, AnEmptyTitleLeavesItsLineEmpty) {
     EXPECT_THAT(ValuesOf("Header").at(0), testing::HasSubstr("Inc.\\line \\line Page 1}"));
 }
 
+TEST_F(GeneratedReports, WithoutNumbersAndDateTheRestOfTheHeaderStays) {
+    Option("chkPageNumbers", "0");
+    Option("chkDate", "0");
+    project.GPDProjectFormat.Title = "";
+    surface.Action(3);
+    SetPageHeader(context);
+    EXPECT_EQ(ValuesOf("Header"),
+              Values{"{TENDO - HVAC Estimating and Sales Proposal Program\\line Northfield "
+                     "Heating\\line (507) 555-0199}||{Velmo Software Development, Inc.\\line "
+                     "\\line}"});
+    EXPECT_EQ(ValuesOf("Footer"), Values{"||"});
+}
+
+TEST_F(GeneratedReports, ATitleIsTrimmedInTheHeader) {
+    project.GPDProjectFormat.Title = "  Marlow Residence  ";
+    surface.Action(3);
+    SetPageHeader(context);
+    EXPECT_THAT(ValuesOf("Header").at(0),
+                testing::HasSubstr("Inc.\\line Marlow Residence\\line Page 1}"));
+}
+
+TEST_F(GeneratedReports, BarsAndBracesInNamesSplitTheHeaderAndHarmNothing) {
+    for (const char* name : {"A|B", "{", "}", "a\\b", "|||||", "{\\line|", "\\"}) {
+        project.GPDProjectFormat.Title = name;
+        Owner().OwnerName = name;
+        surface.Action(3);
+        SetPageHeader(context);
+        surface.NewPage();
+        surface.Action(6);
+        EXPECT_THAT(ValuesOf("Header").at(0),
+                    testing::HasSubstr(std::string("Inc.\\line ") + name + "\\line Page 1}"));
+        ASSERT_EQ(layout.Result().pages.size(), 2U) << name;
+        EXPECT_THAT(PageText(layout.Result().pages[1]), testing::HasSubstr("TENDO - HVAC")) << name;
+    }
+}
+
 TEST_F(GeneratedReports, TheFirstPageHasNoRunningHeaderOfItsOwn) {
     surface.Action(3);
     surface.Paragraph("first");

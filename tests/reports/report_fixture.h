@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,8 @@ class ReportTest : public testing::Test {
     /// again.
     void Option(const std::string& key, const std::string& value);
     void BannerOption(const std::string& key, const std::string& value);
+    /// Switches off all rows of the comparison table that have an option.
+    void SwitchOffAllRows();
     /// A small picture file of a given size in the test's own folder; gives its path.
     std::string MakePicture(const std::string& name, int width, int height);
 
@@ -42,6 +45,9 @@ class ReportTest : public testing::Test {
     std::string CallsText() const;
     /// Compares the calls with tests/reports/goldens/NAME; lines that begin with '#' explain it.
     void ExpectGolden(const std::string& name) const;
+    /// Compares the calls with a golden whose lines each begin with an option, or with "-": all
+    /// lines but those of the options that are off.
+    void ExpectGoldenWithout(const std::string& name, const std::set<std::string>& off) const;
     /// The values of all calls of one name, in order.
     std::vector<std::string> ValuesOf(const std::string& op) const;
     /// The body rows of the last table, each without its semicolon.

@@ -98,5 +98,43 @@ TEST_F(SalesReport, ACommentIsShownWhenItIsThereAndMayBePrinted) {
     EXPECT_THAT(Summary(), testing::EndsWith("(507) 555-0101;|||;"));  // the row stays, empty
 }
 
+TEST_F(SalesReport, AllSummaryOptionsOffLeaveTheFourFixedRows) {
+    for (const char* key : {"CompanyRep", "CompanyID", "ClientFax", "CompanyFax"})
+        Option(key, "0");
+    EXPECT_EQ(Summary(),
+              "Client:|Dana Marlow|Company:|Northfield Air;"
+              "Address:|12 Maple Street|Address:|480 Foundry Rd;"
+              "City:|Alden, MN 56009|City:|Alden, MN 56007;"
+              "Phone:|(507) 555-0142|Phone:|(507) 555-0100;");
+}
+
+TEST_F(SalesReport, SummaryValuesAreTrimmedAndANumberOfBlanksIsNone) {
+    project.GPDClientFormat.Name = "  Dana ";
+    project.GPDCompanyFormat.CompanyIDNumber = "   ";
+    project.GPDClientFormat.Comment = "   ";
+    EXPECT_THAT(Summary(), testing::StartsWith("||Company:|Northfield Air;"
+                                               "Client:|Dana|Company Rep:|Robin Vance;"
+                                               "Address:|"));
+    EXPECT_THAT(Summary(), testing::Not(testing::HasSubstr("Comment:")));
+}
+
+TEST_F(SalesReport, AnEmptyProjectKeepsItsLabels) {
+    project = {};
+    EXPECT_EQ(Summary(),
+              "||Company:|;Client:||Company Rep:|;Address:||Address:|;City:||City:|;"
+              "Phone:||Phone:|;Fax:||Fax:|;");
+}
+
+TEST_F(SalesReport, BarsAndSemicolonsInNamesSplitTheSummaryAndHarmNothing) {
+    project.GPDClientFormat.Name = "Marlow | Sons; Ltd";
+    EXPECT_THAT(Summary(), testing::HasSubstr("Client:|Marlow | Sons; Ltd|Company Rep:|"));
+    PreviewSalesOnly(context);
+    const std::string text = PageText(layout.Result().pages.at(0));
+    EXPECT_THAT(text, testing::HasSubstr("Client: Marlow  Sons\n"));
+    EXPECT_THAT(text, testing::HasSubstr("Ltd Company Rep: Robin Vance"));
+    EXPECT_THAT(text, testing::HasSubstr("Phone: (507) 555-0142"));
+}
+
+
 }  // namespace
 }  // namespace tendo

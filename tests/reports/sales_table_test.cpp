@@ -6,7 +6,6 @@
 #include "report_fixture.h"
 #include "reports/generate_reports.h"
 #include "reports/sales_columns.h"
-#include "reports/sales_rows.h"
 
 namespace tendo {
 namespace {
@@ -31,10 +30,6 @@ class SalesTable : public ReportTest {
     }
     std::string TableField(std::size_t field) const {
         return std::get<std::string>(LastTable().fields.at(field).second);
-    }
-    void SwitchOffAllRows() {
-        for (const SalesRow& row : SalesRows())
-            if (row.option) Option(row.option, "0");
     }
     ModelInfoRecord& Info(std::size_t system) { return project.ModelInfo[system]; }
     /// The row that begins with a label.
@@ -320,6 +315,131 @@ TEST_F(SalesTable, TheFormDoesNotDependOnTheKindOfPrice) {
     project.GPDProjectFormat.SingleProposalType = !project.GPDProjectFormat.SingleProposalType;
     Print();
     EXPECT_EQ(CallsText(), calls);
+}
+
+TEST_F(SalesTable, FiveSystemsWithOnlySomeModelsLeaveTheOtherCellsBlank) {
+    Fill(5);
+    project.CLGModelData[1] = {};  // heating only
+    project.WHModelData[1] = {};
+    project.HTGModelData[3] = {};  // cooling only
+    project.WHModelData[3] = {};
+    project.CLGModelData[4].ModelNum = "   ";  // a number of blanks is none
+    project.HTGModelData[2] = {};
+    Print();
+    const Rows rows = LastTableRows();
+    EXPECT_THAT(rows, Contains("Unit Model Number:|CN-1||CN-3|CN-4|"));
+    EXPECT_THAT(rows, Contains("Unit Description:|Clg unit 1||Clg unit 3|Clg unit 4|Clg unit 5"));
+    EXPECT_THAT(rows, Contains("Capacity:|31.00||33.00|34.00|"));
+    EXPECT_THAT(rows, Contains("Total Price:|$2,001.00||$2,003.00|$2,004.00|"));
+    EXPECT_THAT(rows, Contains("Unit Model Number:|HN-1|HN-2|||HN-5"));
+    EXPECT_THAT(rows, Contains("Capacity:|101.00|102.00|||105.00"));
+    EXPECT_THAT(rows, Contains("CFM Rate:|1201.5|1202.5|0|0|1205.5"));  // a plain number, always
+    EXPECT_THAT(rows, Contains("Total Price:|$5,001.00|$5,002.00|||$5,005.00"));
+    EXPECT_THAT(rows, Contains("Unit Model Number:|WN-1||WN-3||WN-5"));
+    EXPECT_THAT(rows, Contains("List Price:|$701.00||$703.00||$705.00"));
+    for (const std::string& row : rows)
+        EXPECT_EQ(std::count(row.begin(), row.end(), '|'), 5) << row;
+}
+
+TEST_F(SalesTable, SystemsPricedOutOfOrderStandInTheirOwnOrder) {
+    for (const int system : {4, 0, 2})
+        FillSystem(project, system);
+    Print();
+    EXPECT_EQ(TableField(1), "|SYSTEM #1|SYSTEM #2|SYSTEM #3");
+    EXPECT_EQ(Row("Unit Model Number:"), "Unit Model Number:|CN-1|CN-3|CN-5");
+    // Each column names its own system, and the label that of the first column.
+    EXPECT_EQ(Row("Operating Cost for"), "Operating Cost for System #1:|$311.00|$313.00|$315.00");
+}
+
+TEST_F(SalesTable, TheOperatingCostsLabelIsThatOfTheFirstColumn) {
+    for (const int system : {2, 4})
+        FillSystem(project, system);
+    Print();
+    EXPECT_EQ(Row("Operating Cost for"), "Operating Cost for System #3:|$313.00|$315.00");
+}
+
+TEST_F(SalesTable, APricedSystemBehindTwoUnpricedModelsLosesItsColumn) {
+    Fill(4);
+    Info(0) = Info(1) = {};  // models of systems 1 and 2, prices of 3 and 4
+    Print();
+    EXPECT_EQ(Row("Unit Model Number:"), "Unit Model Number:|CN-1|CN-2");
+    EXPECT_EQ(Row("Total Price:"), "Total Price:|$0.00|$0.00");
+    EXPECT_THAT(LastTableRows(), Contains("Total Price:|$0.00|$0.00").Times(3));
+}
+
+TEST_F(SalesTable, OnePricedSystemIsShownAloneHoweverManyModelsThereAre) {
+    Fill(3);
+    Info(0) = Info(2) = {};
+    Print();
+    EXPECT_EQ(TableField(1), "|COOLING|HEATING|HOT WATER");
+    EXPECT_EQ(Row("Unit Model Number:"), "Unit Model Number:|CN-2|HN-2|WN-2");
+    EXPECT_EQ(Row("Operating Cost for"), "Operating Cost for System #2:|$312.00|$412.00|$512.00");
+}
+
+TEST_F(SalesTable, APriceOfAnyModelCountsASystem) {
+    for (float ModelInfoRecord::*price :
+         {&ModelInfoRecord::CLGSalePrice, &ModelInfoRecord::HTGSalePrice,
+          &ModelInfoRecord::WHSalePrice}) {
+        project.ModelInfo = {};
+        EXPECT_EQ(CountPricedSystems(project), 0);
+        Info(4).*price = -0.01F;
+        EXPECT_EQ(CountPricedSystems(project), 1);
+    }
+}
+
+TEST_F(SalesTable, TheLastWaterHeaterPriceWinsTheOneSystemForm) {
+    FillSystem(project, 1);
+    Info(3).WHModelDealerCost = 5;  // neither a dealer cost of a water heater
+    Info(3).CLGListPrice = 5;       // nor a list price is looked at
+    Print();
+    EXPECT_EQ(Row("Unit Model Number:"), "Unit Model Number:|CN-2|HN-2|WN-2");
+    Info(1) = {};
+    Info(2).HTGModelDealerCost = 1;
+    Info(4).WHSalePrice = 1;
+    Print();
+    EXPECT_EQ(SystemOfSingleTable(project), 4);
+}
+
+TEST_F(SalesTable, ASingleWaterHeaterIsFoundByItsPrice) {
+    project.WHModelData[2].ModelNum = "WN-3";
+    project.WHModelData[2].WHIsHydroAirComponent = 1;
+    Info(2).WHSalePrice = 803;
+    PreviewSalesOnly(context);
+    EXPECT_EQ(context.Problems, Rows{});
+    EXPECT_EQ(TableField(1), "|COOLING|HEATING|HOT WATER");
+    EXPECT_EQ(Row("Unit Model Number:"), "Unit Model Number:|||WN-3");
+    EXPECT_EQ(Row("Total Price:"), "Total Price:|||$803.00");
+    EXPECT_THAT(ValuesOf("Paragraph"),
+                Contains("  Water Heater is used for both Hot Water and Space Heat"));
+}
+
+TEST_F(SalesTable, ANoteStandsForEachColumnThatIsMarkedWithOne) {
+    SwitchOffAllRows();
+    Fill(5);
+    const std::string note = "  Water Heater is used for both Hot Water and Space Heat in System #";
+    for (auto& model : project.WHModelData)
+        model.WHIsHydroAirComponent = 1;
+    project.WHModelData[2].ModelNum = "";  // the section stands, so its note does too
+    project.WHModelData[3].WHIsHydroAirComponent = 2;
+    Print();
+    EXPECT_EQ(ValuesOf("Paragraph"), (Rows{"", note + "1", note + "2", note + "3", note + "5"}));
+    for (auto& model : project.WHModelData)
+        model.ModelNum = " ";  // no section, no note
+    Print();
+    EXPECT_EQ(ValuesOf("Paragraph"), Rows{""});
+}
+
+TEST_F(SalesTable, BarsAndSemicolonsInSeveralSystemsSplitTheirRowsToo) {
+    SwitchOffAllRows();
+    Fill(2);
+    project.CLGModelData[0].Manuf = "A|B";
+    project.HTGModelData[1].ModelDesc = "c;d";
+    Print();
+    EXPECT_THAT(LastTableRows(), Contains("Equipment Manufacturer:|A|B|Clgman 2"));
+    EXPECT_THAT(LastTableRows(), Contains("Unit Description:|Htg unit 1|c"));
+    EXPECT_THAT(LastTableRows(), Contains("d"));
+    surface.Action(6);
+    EXPECT_EQ(layout.Result().pages.size(), 1U);
 }
 
 }  // namespace

@@ -15,7 +15,8 @@ void mnuFilePrint_Click() {
     AskForOwnerOnce();
     Form::StoreAllFields();
     HourglassPointer();
-    Document document = RunReports(GenerateReports).document;
+    Document document =
+        RunReports([](ReportContext& context) { GenerateReports(context); }).document;
     SetDocumentNames(document, Project());
     NormalPointer();
     PrintDocument(document);
