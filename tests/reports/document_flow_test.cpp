@@ -25,7 +25,7 @@ const std::map<char, const char*> Marks = {{'T', "chkPrintTitleReport"},
 class DocumentFlow : public ReportTest {
   protected:
     void Mark(const std::string& letters) {
-        context.isMarked = [letters](const char* key) {
+        plainContext.isMarked = context.isMarked = [letters](const char* key) {
             for (const auto& [letter, mark] : Marks)
                 if (mark == std::string(key)) return letters.find(letter) != std::string::npos;
             return ReportOptionIsOn(key);
@@ -163,8 +163,8 @@ TEST_F(DocumentFlow, TitleAndSalesReportOfTwoSystemsWithFootnotesAreWrittenAsTol
     SwitchOffAllRows();
     project.ProjectFootNotes = {{"Terms", "{\\rtf1 One<PAGE>Two}"}, {"Terms", "Three"}};
     project.gvNumOfFootnotes = 2;
-    GenerateReports(context, Stubs);
-    ExpectGolden("title_and_sales.txt");
+    GenerateReports(plainContext, Stubs);
+    ExpectGolden("title_and_sales.txt", plainSurface);
 }
 
 }  // namespace

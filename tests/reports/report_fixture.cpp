@@ -244,15 +244,15 @@ std::string ReportTest::MakePicture(const std::string& name, int width, int heig
     return path;
 }
 
-std::string ReportTest::CallsText() const {
+std::string ReportTest::CallsText(const RecordingSurface& log) const {
     std::string text;
-    for (const SurfaceCall& call : surface.Calls())
+    for (const SurfaceCall& call : log.Calls())
         text += CallText(call);
     return Replaced(text, folder.string(), "FOLDER");
 }
 
-void ReportTest::ExpectGolden(const std::string& name) const {
-    ExpectSameLines(name, ReadGolden(name), CallsText());
+void ReportTest::ExpectGolden(const std::string& name, const RecordingSurface& log) const {
+    ExpectSameLines(name, ReadGolden(name), CallsText(log));
 }
 
 void ReportTest::ExpectGoldenWithout(const std::string& name,

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "plain_page.h"
 #include "platform/print/fixed_measurer.h"
 #include "platform/print/layout_surface.h"
 #include "platform/print/recording_surface.h"
@@ -42,9 +43,11 @@ class ReportTest : public testing::Test {
 
     /// All calls since the document's start as golden text; the test's folder is written as
     /// "FOLDER".
-    std::string CallsText() const;
+    std::string CallsText() const { return CallsText(surface); }
+    std::string CallsText(const RecordingSurface& log) const;
     /// Compares the calls with tests/reports/goldens/NAME; lines that begin with '#' explain it.
-    void ExpectGolden(const std::string& name) const;
+    void ExpectGolden(const std::string& name) const { ExpectGolden(name, surface); }
+    void ExpectGolden(const std::string& name, const RecordingSurface& log) const;
     /// Compares the calls with a golden whose lines each begin with an option, or with "-": all
     /// lines but those of the options that are off.
     void ExpectGoldenWithout(const std::string& name, const std::set<std::string>& off) const;
@@ -61,6 +64,10 @@ class ReportTest : public testing::Test {
     LayoutSurface layout{measurer};
     RecordingSurface surface{layout};
     ReportContext context{surface, project};
+    /// The same on pages whose positions don't depend on the layout.
+    PlainPage plainPage;
+    RecordingSurface plainSurface{plainPage};
+    ReportContext plainContext{plainSurface, project};
 };
 
 }  // namespace tendo

@@ -2,7 +2,7 @@
 #include <set>
 #include <sstream>
 
-#include "blank_surface.h"
+#include "plain_page.h"
 #include "platform/files/ini_file_handler.h"
 #include "platform/files/profile.h"
 #include "platform/text/text.h"
@@ -103,7 +103,7 @@ class SalesOptions : public ReportTest, public testing::WithParamInterface<int> 
     }
 
     std::string Written() {
-        BlankSurface paper;
+        PlainPage paper;
         RecordingSurface log(paper);
         PrintSalesTable(log, project);
         std::string text;

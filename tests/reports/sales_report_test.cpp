@@ -17,8 +17,8 @@ TEST_F(SalesReport, IsWrittenAsTold) {
     FillSystem(project, 0);
     project.ProjectFootNotes.push_back({"Terms", "{\\rtf1 Price <$$$$>}"});
     project.gvNumOfFootnotes = 1;
-    EXPECT_TRUE(PreviewSalesOnly(context));
-    ExpectGolden("sales_one_system.txt");
+    EXPECT_TRUE(PreviewSalesOnly(plainContext));
+    ExpectGolden("sales_one_system.txt", plainSurface);
 }
 
 TEST_F(SalesReport, WithoutFootnotesHasNoSuchHeading) {
@@ -134,7 +134,6 @@ TEST_F(SalesReport, BarsAndSemicolonsInNamesSplitTheSummaryAndHarmNothing) {
     EXPECT_THAT(text, testing::HasSubstr("Ltd Company Rep: Robin Vance"));
     EXPECT_THAT(text, testing::HasSubstr("Phone: (507) 555-0142"));
 }
-
 
 }  // namespace
 }  // namespace tendo

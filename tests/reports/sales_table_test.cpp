@@ -40,12 +40,6 @@ class SalesTable : public ReportTest {
     }
 };
 
-TEST_F(SalesTable, TwoSystemsWithAllRowsStandInThreeSections) {
-    Fill(2);
-    Print();
-    ExpectGolden("table_two_systems.txt");
-}
-
 TEST_F(SalesTable, WithAllRowOptionsOffOnlyTheThreeFixedRowsStand) {
     SwitchOffAllRows();
     Fill(1);
