@@ -45,6 +45,34 @@ TEST_F(LineBreaking, AWordWiderThanTheLineIsBrokenBetweenCharacters) {
     EXPECT_EQ(Break("äöüß", 200), (Lines{"äö", "üß"}));
 }
 
+TEST_F(LineBreaking, AWordWiderThanTheLineIsBrokenBehindItsHyphens) {
+    EXPECT_EQ(Break("FA-3614-208/230V", 1000), (Lines{"FA-3614-", "208/230V"}));
+    EXPECT_EQ(Break("FA-3614-208/230V", 500), (Lines{"FA-", "3614-", "208/", "230V"}));
+    // A part that is too wide itself is broken between characters: "3614-" at four a line.
+    EXPECT_EQ(Break("FA-3614-9", 400), (Lines{"FA-3", "614-", "9"}));
+    EXPECT_EQ(Break("a-b ccc", 500), (Lines{"a-b", "ccc"}));  // a word that fits isn't touched
+}
+
+TEST_F(LineBreaking, AnAccentStaysWithItsLetter) {
+    // e and U+0301: the fixed font counts two characters.
+    EXPECT_EQ(Break("e\u0301e\u0301", 200), (Lines{"e\u0301", "e\u0301"}));
+    EXPECT_EQ(Break("e\u0301e\u0301", 100), (Lines{"e\u0301", "e\u0301"}));
+}
+
+TEST_F(LineBreaking, AWordBehindTabsThatLeaveTheLineGoesToTheNext) {
+    EXPECT_EQ(Break("\t\t\tab", 1000), (Lines{"", "ab"}));
+}
+
+TEST_F(LineBreaking, AMegabyteWithoutABlankLosesNoCharacter) {
+    const std::string text(1 << 20, 'x');
+    std::size_t characters = 0;
+    for (const std::string& line : Break(text, 10000)) {
+        EXPECT_LE(line.size(), 100U);
+        characters += line.size();
+    }
+    EXPECT_EQ(characters, text.size());
+}
+
 TEST_F(LineBreaking, ALineNarrowerThanACharacterHoldsOne) {
     EXPECT_EQ(Break("abc", 10), (Lines{"a", "b", "c"}));
 }

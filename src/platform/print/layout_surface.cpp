@@ -18,7 +18,7 @@ using namespace page_geometry;
 constexpr int TextLeft = Left + TextInset;
 constexpr int TextRight = Right - TextInset;
 constexpr int NarrowestText = 720;
-constexpr int FarthestPen = 100 * PaperHeight;
+constexpr int FarthestPlace = 100 * PaperHeight;
 constexpr int BorderPen = 15;
 constexpr int LinesWithHeading = 4;       // a heading and what must follow it on its page
 constexpr int SpaceBehindRichText = 100;  // parts one footnote from the next
@@ -28,6 +28,11 @@ constexpr int BoxBorder = 4;
 constexpr int Centred = 1;  // of TextAlign
 constexpr int Rectangle = 2;
 constexpr int SolidBrush = 0;
+
+/// A place that arithmetic can't overflow on.
+int HeldNear(int twips) {
+    return std::clamp(twips, -FarthestPlace, FarthestPlace);
+}
 
 bool IsBlank(const TextLine& line) {
     return line.width <= 0;
@@ -92,10 +97,10 @@ void LayoutSurface::Set(SurfaceOp op, const SurfaceValue& value) {
         case SurfaceOp::Picture:
             return AddPicture(text());
         case SurfaceOp::CurrentX:
-            flow_.x = std::clamp(number(), -FarthestPen, FarthestPen);
+            flow_.x = HeldNear(number());
             return;
         case SurfaceOp::CurrentY:
-            flow_.y = std::clamp(number(), -FarthestPen, FarthestPen);
+            flow_.y = HeldNear(number());
             return;
         case SurfaceOp::HdrFont:
             return Keep(SurfaceOp::HdrFontName, value);
@@ -141,6 +146,10 @@ RichRun LayoutSurface::HeaderFormat() const {
 int LayoutSurface::LineSpacingPercent() const {
     const int percent = Number(SurfaceOp::LineSpacing);
     return percent <= 0 ? 100 : std::clamp(percent, 50, 400);
+}
+
+int LayoutSurface::PlaceOf(SurfaceOp op) const {
+    return HeldNear(Number(op));
 }
 
 int LayoutSurface::PenTwips() const {
@@ -266,10 +275,10 @@ void LayoutSurface::WriteText(std::string_view text) {
 
 void LayoutSurface::DrawShape() {
     flow_.EnsurePage();
-    BoxItem box{Number(SurfaceOp::X1),
-                Number(SurfaceOp::Y1),
-                Number(SurfaceOp::X2),
-                Number(SurfaceOp::Y2),
+    BoxItem box{PlaceOf(SurfaceOp::X1),
+                PlaceOf(SurfaceOp::Y1),
+                PlaceOf(SurfaceOp::X2),
+                PlaceOf(SurfaceOp::Y2),
                 {},
                 {},
                 PenTwips()};
@@ -284,19 +293,24 @@ void LayoutSurface::DrawShape() {
 
 void LayoutSurface::AddPicture(std::string_view path) {
     flow_.EnsurePage();
-    flow_.Current().shapes.push_back(PictureItem{Number(SurfaceOp::X1), Number(SurfaceOp::Y1),
-                                                 Number(SurfaceOp::X2), Number(SurfaceOp::Y2),
+    flow_.Current().shapes.push_back(PictureItem{PlaceOf(SurfaceOp::X1), PlaceOf(SurfaceOp::Y1),
+                                                 PlaceOf(SurfaceOp::X2), PlaceOf(SurfaceOp::Y2),
                                                  std::string(path)});
 }
 
 void LayoutSurface::DrawLine(int x1, int y1, int x2, int y2) {
     flow_.EnsurePage();
-    if (y1 == y2 && y1 > flow_.y && std::abs(x2 - x1) >= Right - Left) {
+    const LineItem line{HeldNear(x1),
+                        HeldNear(y1),
+                        HeldNear(x2),
+                        HeldNear(y2),
+                        RgbOfColor(Number(SurfaceOp::PenColor)),
+                        PenTwips()};
+    if (y1 == y2 && y1 > flow_.y && std::abs(line.x2 - line.x1) >= Right - Left) {
         closingRule_ = flow_.Current().shapes.size();
         closingRulePage_ = flow_.PageNumber();
     }
-    flow_.Current().shapes.push_back(
-        LineItem{x1, y1, x2, y2, RgbOfColor(Number(SurfaceOp::PenColor)), PenTwips()});
+    flow_.Current().shapes.push_back(line);
 }
 
 void LayoutSurface::WriteTable(std::string_view format, std::string_view header,

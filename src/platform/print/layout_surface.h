@@ -66,6 +66,7 @@ class LayoutSurface : public PrintSurface {
     RichRun HeaderFormat() const;
     int FontId(const FontSpec& font) { return fonts_.Id(font); }
     int LineSpacingPercent() const;
+    int PlaceOf(SurfaceOp op) const;
     int PenTwips() const;
 
     FontTable fonts_;

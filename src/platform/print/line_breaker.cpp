@@ -8,6 +8,7 @@ namespace tendo {
 namespace {
 
 constexpr int DefaultTab = 720;
+constexpr std::size_t LongestMeasured = 200;  // bytes; no word of a language is longer
 
 struct Piece {
     std::string_view text;
@@ -49,15 +50,16 @@ std::size_t SyllableBytes(std::string_view text) {
 
 class LineBreaker {
   public:
-    LineBreaker(FontTable& fonts, const LineShape& shape)
-        : fonts_(fonts), shape_(shape), x_(shape.firstIndent) {}
+    LineBreaker(FontTable& fonts, const LineShape& shape) : fonts_(fonts), shape_(shape) {
+        StartLine(shape.firstIndent);
+    }
 
     void Add(const StyledRun& run) {
         font_ = run.font;
         std::string_view rest = run.text;
         while (!rest.empty()) {
             const std::size_t end = std::min(rest.find_first_of(" \t\r\n"), rest.size());
-            if (end > 0) AddWordPart({rest.substr(0, end), run.font, run.color, 0});
+            if (end > 0) AddWord(rest.substr(0, end), run);
             if (end < rest.size()) AddBreak(rest[end], run);
             rest.remove_prefix(std::min(end + 1, rest.size()));
         }
@@ -70,6 +72,18 @@ class LineBreaker {
     }
 
   private:
+    /// A text without blanks may be megabytes long; it is measured in pieces.
+    void AddWord(std::string_view word, const StyledRun& run) {
+        while (word.size() > LongestMeasured) {
+            std::size_t bytes = 0;
+            while (bytes < LongestMeasured)
+                bytes += CharacterBytes(word.substr(bytes));
+            AddWordPart({word.substr(0, bytes), run.font, run.color, 0});
+            word.remove_prefix(bytes);
+        }
+        AddWordPart({word, run.font, run.color, 0});
+    }
+
     void AddWordPart(Piece piece) {
         piece.width = fonts_.WordWidth(piece.font, piece.text);
         wordWidth_ += piece.width;
@@ -85,9 +99,12 @@ class LineBreaker {
             x_ = NextTab();
         } else if (character == '\n') {
             EndLine();
-            x_ = shape_.firstIndent;
+            StartLine(shape_.firstIndent);
         }
     }
+
+    void StartLine(double x) { x_ = start_ = x; }
+    bool IsStarted() const { return x_ > start_; }
 
     double NextTab() const {
         for (const int tab : shape_.tabs)
@@ -101,9 +118,9 @@ class LineBreaker {
         double blankWidth = 0;
         for (const Piece& blank : blanks_)
             blankWidth += blank.width;
-        if (!line_.fragments.empty() && x_ + blankWidth + wordWidth_ > shape_.width) {
+        if (IsStarted() && x_ + blankWidth + wordWidth_ > shape_.width) {
             EndLine();
-            x_ = shape_.restIndent;
+            StartLine(shape_.restIndent);
         }
         PlaceBlanks();
         if (x_ + wordWidth_ <= shape_.width)
@@ -147,9 +164,9 @@ class LineBreaker {
     }
 
     void PlacePart(const Piece& part) {
-        if (x_ + part.width > shape_.width && !line_.fragments.empty()) {
+        if (IsStarted() && x_ + part.width > shape_.width) {
             EndLine();
-            x_ = shape_.restIndent;
+            StartLine(shape_.restIndent);
         }
         Place(part);
     }
@@ -191,7 +208,7 @@ class LineBreaker {
     TextLine line_;
     std::vector<Piece> word_, blanks_;
     double wordWidth_ = 0;
-    double x_ = 0;
+    double x_ = 0, start_ = 0;
     int font_ = 0;
 };
 
