@@ -1,10 +1,14 @@
 #include "platform/print/picture_size.h"
 
+#include <array>
+#include <cctype>
+#include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <fstream>
-#include <vector>
 
+#include "platform/print/jpeg_head.h"
+#include "platform/print/picture_bytes.h"
+#include "platform/print/picture_kind.h"
 #include "platform/text/number_text.h"
 #include "platform/text/text.h"
 
@@ -13,90 +17,141 @@ namespace tendo {
 namespace {
 
 constexpr std::streamsize MostBytes = 1 << 20;  // a JPEG may carry a preview ahead of its size
+constexpr int LargestSide = 0xFFFFFF;
 
-/// Bytes by offset; 0 beyond the end.
-class Bytes {
-  public:
-    explicit Bytes(std::string_view bytes) : bytes_(bytes) {}
-    std::uint32_t At(std::size_t offset) const {
-        return offset < bytes_.size() ? static_cast<unsigned char>(bytes_[offset]) : 0;
-    }
-    int Little16(std::size_t at) const { return static_cast<int>(At(at) | At(at + 1) << 8); }
-    int Big16(std::size_t at) const { return static_cast<int>(At(at) << 8 | At(at + 1)); }
-    std::int32_t Little32(std::size_t at) const {
-        return static_cast<std::int32_t>(At(at) | At(at + 1) << 8 | At(at + 2) << 16 |
-                                         At(at + 3) << 24);
-    }
-    std::int32_t Big32(std::size_t at) const {
-        return static_cast<std::int32_t>(At(at) << 24 | At(at + 1) << 16 | At(at + 2) << 8 |
-                                         At(at + 3));
-    }
-    std::size_t Size() const { return bytes_.size(); }
+/// A distance between two corners read from a file.
+int Distance(std::int64_t from, std::int64_t to) {
+    const std::int64_t distance = to > from ? to - from : from - to;
+    return distance > LargestSide ? LargestSide : static_cast<int>(distance);
+}
 
-  private:
-    std::string_view bytes_;
-};
+int Side(std::int32_t value) {
+    return Distance(0, value);
+}
 
-PictureSize JpegSize(const Bytes& bytes) {
-    std::size_t at = 2;
-    while (at + 9 < bytes.Size()) {
-        const std::uint32_t marker = bytes.At(at + 1);
-        const bool frame =
-            marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
-        if (bytes.At(at) != 0xFF) return {};
-        if (frame) return {bytes.Big16(at + 7), bytes.Big16(at + 5)};
-        at += 2 + static_cast<std::size_t>(bytes.Big16(at + 2));
+PictureSize JpegSize(const PictureBytes& bytes) {
+    const JpegHead head = ReadJpegHead(bytes);
+    if (head.orientation >= 5) return {head.height, head.width};
+    return {head.width, head.height};
+}
+
+/// `header`: where the bitmap's own header begins. The oldest has sides of 16 bits.
+PictureSize BitmapSize(const PictureBytes& bytes, std::size_t header) {
+    constexpr int OldHeader = 12;
+    if (bytes.Little32(header) == OldHeader)
+        return {bytes.Little16(header + 4), bytes.Little16(header + 6)};
+    return {Side(bytes.Little32(header + 4)), Side(bytes.Little32(header + 8))};
+}
+
+/// The largest of an icon's pictures.
+PictureSize IconSize(const PictureBytes& bytes) {
+    const auto side = [&](std::size_t at) {  // 0 stands for 256
+        return bytes.At(at) == 0 ? 256 : static_cast<int>(bytes.At(at));
+    };
+    PictureSize largest;
+    for (int i = 0; i < bytes.Little16(4); ++i) {
+        const std::size_t entry = 6 + 16 * static_cast<std::size_t>(i);
+        if (entry + 2 > bytes.Size()) break;
+        const PictureSize size{side(entry), side(entry + 1)};
+        if (size.width * size.height > largest.width * largest.height) largest = size;
+    }
+    return largest;
+}
+
+/// The first record that sets the extent of the window; its height stands ahead of its width.
+PictureSize MetafileSize(const PictureBytes& bytes) {
+    constexpr int SetWindowExtent = 0x020C;
+    constexpr std::size_t Header = 18, Smallest = 3;
+    for (std::size_t at = Header; at + 10 <= bytes.Size();) {
+        const std::size_t words = bytes.UnsignedLittle32(at);
+        if (bytes.Little16(at + 4) == SetWindowExtent)
+            return {Side(bytes.Signed16(at + 8)), Side(bytes.Signed16(at + 6))};
+        if (words < Smallest) break;
+        at += words * 2;
     }
     return {};
 }
 
-std::int16_t Signed16(int value) {
-    return static_cast<std::int16_t>(value);
+bool IsInName(char letter) {
+    return std::isalnum(static_cast<unsigned char>(letter)) || letter == '-' || letter == ':';
 }
 
-/// A distance between two corners read from a file, held within 24 bits.
-int Distance(std::int64_t from, std::int64_t to) {
-    const std::int64_t distance = to > from ? to - from : from - to;
-    return distance > 0xFFFFFF ? 0xFFFFFF : static_cast<int>(distance);
+/// The value of an attribute of a tag; empty without it.
+std::string_view Attribute(std::string_view tag, const std::string& name) {
+    for (std::size_t at = tag.find(name + "="); at != std::string_view::npos;
+         at = tag.find(name + "=", at + 1)) {
+        const std::size_t open = at + name.size() + 1;
+        if (at == 0 || IsInName(tag[at - 1]) || open >= tag.size()) continue;
+        const std::string_view value = tag.substr(open + 1);
+        return value.substr(0, value.find(tag[open]));
+    }
+    return {};
 }
 
-int Dimension(std::int32_t value) {
-    return Distance(0, value);
+/// The numbers of "0 0 640 160" or "0,0,640,160"; false when there are fewer than four.
+bool FourNumbers(std::string text, std::array<double, 4>& numbers) {
+    for (char& letter : text)
+        if (letter == ',' || std::isspace(static_cast<unsigned char>(letter))) letter = ' ';
+    std::size_t count = 0;
+    for (const std::string& number : Split(text, ' '))
+        if (!number.empty() && count < numbers.size()) numbers[count++] = LeadingNumber(number);
+    return count == numbers.size();
 }
 
-/// The extent of a vector picture's view box, "0 0 640 160"; an SVG without one has no size.
-std::optional<PictureSize> SvgSize(std::string_view text) {
-    const std::size_t at = text.find("viewBox=");
-    if (at == std::string_view::npos || at + 9 >= text.size()) return std::nullopt;
-    const std::string_view rest = text.substr(at + 9);
-    const std::vector<std::string> numbers = Split(rest.substr(0, rest.find_first_of("\"'")), ' ');
-    if (numbers.size() != 4) return std::nullopt;
-    return PictureSize{Dimension(LeadingLong(numbers[2])), Dimension(LeadingLong(numbers[3]))};
+/// Sides of a drawing that aren't whole count in thousandths: only the ratio of the two is of use.
+PictureSize DrawnSize(double width, double height) {
+    const bool whole = width == std::floor(width) && height == std::floor(height);
+    const auto side = [&](double length) {
+        const double units = std::fabs(length) * (whole ? 1 : 1000);
+        return units < LargestSide ? static_cast<int>(units) : LargestSide;
+    };
+    return {side(width), side(height)};
+}
+
+/// The extent of a drawing's view box, else its width and height.
+std::optional<PictureSize> DrawingSize(std::string_view text) {
+    std::string_view tag = text.substr(text.find("<svg"));
+    tag = tag.substr(0, tag.find('>'));
+    std::array<double, 4> box{};
+    if (!FourNumbers(std::string(Attribute(tag, "viewBox")), box)) {
+        box[2] = LeadingNumber(Attribute(tag, "width"));
+        box[3] = LeadingNumber(Attribute(tag, "height"));
+    }
+    const PictureSize size = DrawnSize(box[2], box[3]);
+    if (size.width == 0 || size.height == 0) return std::nullopt;
+    return size;
 }
 
 }  // namespace
 
 std::optional<PictureSize> PictureSizeOf(std::string_view data) {
-    const Bytes bytes(data);
-    if (StartsWith(data, "\x89PNG\r\n\x1A\n"))
-        return PictureSize{Dimension(bytes.Big32(16)), Dimension(bytes.Big32(20))};
-    if (StartsWith(data, "\xFF\xD8")) return JpegSize(bytes);
-    if (StartsWith(data, "GIF8")) return PictureSize{bytes.Little16(6), bytes.Little16(8)};
-    if (StartsWith(data, "BM"))
-        return PictureSize{Dimension(bytes.Little32(18)), Dimension(bytes.Little32(22))};
-    if (StartsWith(data, std::string_view("\0\0\1\0", 4))) {
-        const auto side = [&](std::size_t at) {  // 0 stands for 256
-            return bytes.At(at) == 0 ? 256 : static_cast<int>(bytes.At(at));
-        };
-        return PictureSize{side(6), side(7)};
+    const PictureBytes bytes(data);
+    switch (PictureKindOf(data)) {
+        case PictureKind::Png:
+            return PictureSize{Side(bytes.Big32(16)), Side(bytes.Big32(20))};
+        case PictureKind::Jpeg:
+            return JpegSize(bytes);
+        case PictureKind::Gif:
+            return PictureSize{bytes.Little16(6), bytes.Little16(8)};
+        case PictureKind::Bitmap:
+            return BitmapSize(bytes, 14);
+        case PictureKind::BareBitmap:
+            return BitmapSize(bytes, 0);
+        case PictureKind::Icon:
+            return IconSize(bytes);
+        case PictureKind::PlaceableMetafile:
+            return PictureSize{Distance(bytes.Signed16(6), bytes.Signed16(10)),
+                               Distance(bytes.Signed16(8), bytes.Signed16(12))};
+        case PictureKind::Metafile:
+            return MetafileSize(bytes);
+        case PictureKind::EnhancedMetafile:  // its frame, in hundredths of a millimetre
+            return PictureSize{Distance(bytes.Little32(24), bytes.Little32(32)),
+                               Distance(bytes.Little32(28), bytes.Little32(36))};
+        case PictureKind::Drawing:
+            return DrawingSize(data);
+        case PictureKind::None:
+            break;
     }
-    if (StartsWith(data, "\xD7\xCD\xC6\x9A"))
-        return PictureSize{Distance(Signed16(bytes.Little16(6)), Signed16(bytes.Little16(10))),
-                           Distance(Signed16(bytes.Little16(8)), Signed16(bytes.Little16(12)))};
-    if (bytes.Little32(0) == 1 && bytes.Little32(40) == 0x464D4520)
-        return PictureSize{Distance(bytes.Little32(24), bytes.Little32(32)),
-                           Distance(bytes.Little32(28), bytes.Little32(36))};
-    if (Contains(data.substr(0, 4096), "<svg")) return SvgSize(data.substr(0, 4096));
     return std::nullopt;
 }
 

@@ -11,6 +11,7 @@
 #include <variant>
 #include <vector>
 
+#include "platform/qt/pixel_picture.h"
 #include "platform/qt/text_measurer_qt.h"
 #include "platform/text/code_page.h"
 #include "platform/text/text.h"
@@ -49,24 +50,6 @@ class Record {
   private:
     std::string_view bytes_;
 };
-
-/// A bitmap without a file's header, as metafiles hold them.
-QImage BitmapOf(std::string_view dib) {
-    const Record head(dib);
-    const std::uint32_t headerSize = head.Byte(0) | head.Byte(1) << 8;
-    if (headerSize != 40 || dib.size() < headerSize) return {};
-    const int bits = head.Word(7);
-    const std::uint32_t used = head.Byte(32) | head.Byte(33) << 8;
-    const std::uint32_t colors = bits > 8 ? 0 : used > 0 ? used : 1U << std::max(bits, 1);
-    const std::uint32_t offset = 14 + headerSize + colors * 4;
-    const auto size = static_cast<std::uint32_t>(dib.size() + 14);
-    QByteArray file("BM");
-    for (const std::uint32_t value : {size, 0U, offset})
-        for (int shift = 0; shift < 32; shift += 8)
-            file += static_cast<char>(value >> shift & 0xFF);
-    file.append(dib.data(), static_cast<qsizetype>(dib.size()));
-    return QImage::fromData(file, "BMP");
-}
 
 /// Keeps a place in the table of objects whose kind isn't painted with.
 struct OtherObject {};
@@ -305,7 +288,7 @@ class MetafilePlayer {
 
     /// `index`: where the height, width, y and x of the place stand.
     void DrawBitmap(const Record& record, std::size_t index) {
-        const QImage image = BitmapOf(record.From(index + 4));
+        const QImage image = DecodeBareBitmap(record.From(index + 4));
         const int x = record.Word(index + 3), y = record.Word(index + 2);
         const QRectF place(At(x, y), At(x + record.Word(index + 1), y + record.Word(index)));
         if (!image.isNull()) painter_.drawImage(place.normalized(), image);

@@ -8,7 +8,7 @@
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
 #include "platform/qt/icons.h"
-#include "platform/qt/painter_metafile.h"
+#include "platform/qt/painter_picture.h"
 #include "platform/qt/text_measurer_qt.h"
 #include "platform/text/runtime_error.h"
 
@@ -16,8 +16,7 @@ namespace tendo {
 
 namespace {
 
-constexpr double TwipsPerInch = 1440;
-constexpr std::uint64_t LargestMetafile = 16 << 20;
+constexpr double TwipsPerInch = 1440, TwipsPerPoint = 20;
 constexpr QColor IconColor(0x1C, 0x25, 0x30);
 
 QPen PenOf(Rgb color, int width) {
@@ -42,14 +41,6 @@ void Paint(QPainter& painter, const LineItem& line) {
     painter.drawLine(QPointF(line.x1, line.y1), QPointF(line.x2, line.y2));
 }
 
-void PaintMetafileFile(QPainter& painter, const std::string& path, const QRectF& box) {
-    try {
-        PaintMetafile(painter, ReadWholeFile(path, LargestMetafile), box);
-    } catch (const RuntimeError&) {
-        // A picture that has gone since the layout is left out, as one that was never there.
-    }
-}
-
 void Paint(QPainter& painter, const PictureItem& picture) {
     const QRectF box = RectOf(picture);
     if (box.isEmpty()) return;
@@ -57,16 +48,7 @@ void Paint(QPainter& painter, const PictureItem& picture) {
         QSvgRenderer(LineDrawing(QStringLiteral("tendo"), IconColor)).render(&painter, box);
         return;
     }
-    const QString path = QString::fromStdString(picture.path);
-    if (path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
-        QSvgRenderer(path).render(&painter, box);
-        return;
-    }
-    const QImage image(path);
-    if (!image.isNull())
-        painter.drawImage(box, image);
-    else
-        PaintMetafileFile(painter, picture.path, box);
+    PaintPicture(painter, picture.path, box, TwipsPerPoint);
 }
 
 void Paint(QPainter& painter, const TextItem& text, const std::vector<FontSpec>& fonts) {
