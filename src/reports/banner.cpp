@@ -5,30 +5,14 @@
 #include "platform/files/ini_file_handler.h"
 #include "platform/files/paths.h"
 #include "platform/text/text.h"
+#include "reports/banner_options.h"
 #include "reports/preview_code.h"
 
 namespace tendo {
 
 namespace {
 
-constexpr const char* Section = "BannerOptions";
 constexpr const char* DefaultBannerMark = "frmBanner";
-
-bool BannerOptionIsOn(const char* key) {
-    return Ini().MyGetAppProfileInteger(Section, key, 1) == 1;
-}
-
-std::string BannerText(const char* key) {
-    return Ini().MyGetAppProfileString(Section, key, "");
-}
-
-/// The user's own banner; empty when the default one is wanted.
-std::string CustomBannerFile() {
-    if (!ReportOptionIsOn("chkUseCustomBanner")) return {};
-    const std::string file(
-        Trimmed(Ini().MyGetAppProfileString("ReportOptions", "txtBannerFile", "")));
-    return file != DefaultBannerMark && FileExists(file) ? file : std::string();
-}
 
 void PrintCustomBanner(PrintSurface& surface, const std::string& file) {
     SetBox(surface, 23, 45, 778, 175);
@@ -39,43 +23,42 @@ void PrintCustomBanner(PrintSurface& surface, const std::string& file) {
     surface.Paragraph("");
 }
 
-void PrintOwnerLines(PrintSurface& surface) {
+void PrintOwnerLines(PrintSurface& surface, const BannerOptions& options) {
     const OwnerRecord& owner = Owner();
-    if (BannerOptionIsOn("PrintCompanyName")) {
+    if (options.PrintCompanyName == 1) {
         surface.FontSize(2);
         surface.Paragraph("");
         surface.FontSize(16);
         surface.Paragraph(owner.OwnerName);
     }
-    if (BannerOptionIsOn("PrintDescription")) {
+    if (options.PrintDescription == 1) {
         surface.FontSize(12);
         surface.FontItalic(true);
-        surface.Paragraph(BannerText("Description"));
+        surface.Paragraph(options.Description);
     }
     surface.FontSize(10);
     surface.FontBold(false);
     surface.FontItalic(false);
-    if (BannerOptionIsOn("PrintCompanyAddress"))
+    if (options.PrintCompanyAddress == 1)
         surface.Paragraph(owner.OwnerAddress + " " + owner.OwnerCity);
-    if (BannerOptionIsOn("PrintCityStateZip")) surface.Paragraph(owner.OwnerState);
-    if (BannerOptionIsOn("PrintCompanyPhone")) surface.Paragraph("Phone: " + owner.OwnerPhone);
-    if (BannerOptionIsOn("PrintCompanyFax")) surface.Paragraph("Fax: " + BannerText("CompanyFax"));
+    if (options.PrintCityStateZip == 1) surface.Paragraph(owner.OwnerState);
+    if (options.PrintCompanyPhone == 1) surface.Paragraph("Phone: " + owner.OwnerPhone);
+    if (options.PrintCompanyFax == 1) surface.Paragraph("Fax: " + options.CompanyFax);
 }
 
 struct BannerPicture {
-    const char* option;
-    const char* file;
+    std::int16_t BannerOptions::*mark;
+    std::string BannerOptions::*file;
     int left, right;  // hundredths
 };
 constexpr std::array BannerPictures = {
-    BannerPicture{"PrintLeftPicture", "LeftPicture", 40, 150},
-    BannerPicture{"PrintRightPicture", "RightPicture", 661, 771}};
+    BannerPicture{&BannerOptions::PrintLeftPicture, &BannerOptions::LeftPicture, 40, 150},
+    BannerPicture{&BannerOptions::PrintRightPicture, &BannerOptions::RightPicture, 661, 771}};
 
-void PrintBannerPictures(PrintSurface& surface) {
+void PrintBannerPictures(PrintSurface& surface, const BannerOptions& options) {
     for (const BannerPicture& picture : BannerPictures) {
-        if (!BannerOptionIsOn(picture.option)) continue;
-        const std::string file = BannerText(picture.file);
-        if (!FileExists(file)) continue;
+        const std::string& file = options.*picture.file;
+        if (options.*picture.mark != 1 || !FileExists(file)) continue;
         SetBox(surface, picture.left, 55, picture.right, 165);
         surface.Picture(file);
     }
@@ -94,14 +77,22 @@ void SetBannerStyle(PrintSurface& surface) {
 
 }  // namespace
 
+std::string CustomBannerFile() {
+    if (!ReportOptionIsOn("chkUseCustomBanner")) return {};
+    const std::string file(
+        Trimmed(Ini().MyGetAppProfileString("ReportOptions", "txtBannerFile", "")));
+    return file != DefaultBannerMark && FileExists(file) ? file : std::string();
+}
+
 void PrintBanner(PrintSurface& surface) {
     SetBannerStyle(surface);
     surface.DrawLine(ToTwips(23), ToTwips(175), ToTwips(778), ToTwips(175));
     if (const std::string file = CustomBannerFile(); !file.empty()) {
         PrintCustomBanner(surface, file);
     } else {
-        PrintOwnerLines(surface);
-        PrintBannerPictures(surface);
+        const BannerOptions options = LoadBannerOptions();
+        PrintOwnerLines(surface, options);
+        PrintBannerPictures(surface, options);
     }
     surface.HdrFontSize(8);
     surface.HdrFont("Arial");

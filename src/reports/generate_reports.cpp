@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/text/runtime_error.h"
+#include "reports/banner.h"
 #include "reports/sales_report.h"
 #include "reports/title_report.h"
 
@@ -95,6 +96,10 @@ bool PreviewAccessoriesOnly(ReportContext& context) {
 
 bool PreviewInstallersOnly(ReportContext& context) {
     return PreviewOnly(context, InstallersName, Reports().PrintInstallersReport);
+}
+
+bool PreviewBannerOnly(ReportContext& context) {
+    return PreviewOnly(context, [](ReportContext& banner) { PrintBanner(banner.surface); });
 }
 
 }  // namespace tendo

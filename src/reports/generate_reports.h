@@ -27,5 +27,7 @@ bool PreviewSalesOnly(ReportContext& context);
 bool PreviewCostOnly(ReportContext& context);
 bool PreviewAccessoriesOnly(ReportContext& context);
 bool PreviewInstallersOnly(ReportContext& context);
+/// The banner of the Sales Report, without what stands below it.
+bool PreviewBannerOnly(ReportContext& context);
 
 }  // namespace tendo

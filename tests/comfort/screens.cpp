@@ -36,7 +36,7 @@ const Opening openings[] = {
     {"frmModelSelection", [] { ShowModelSelection(SelectionMode::Cooling); }},
     {"frmModelSelection", [] { ShowModelSelection(SelectionMode::WaterHeater); }},
     {"frmPreview", ShowPreview},
-    {"frmOwner", [] { (new FrmOwner)->ShowModal(); }},
+    {"frmOwner", [] { (new FrmOwner("&Later"))->ShowModal(); }},
     {"frmHelpInfo",
      [] {
          HelpInfo info{.title = "Proposal Type Help",

@@ -106,7 +106,9 @@ const std::vector<std::pair<std::string, std::string>>& HelpPagesByScreen() {
         {"frmFootnotes", "footnotes.md"},
         {"frmFootnoteNew", "footnotes.md"},
         {"frmSelectFootNoteFromDB", "footnotes.md"},
-        {"frmReportOptions", "report-options.md"}};
+        {"frmReportOptions", "report-options.md"},
+        {"frmBanner", "banner.md"},
+        {"frmOwner", "banner.md"}};
     return table;
 }
 

@@ -25,6 +25,7 @@
 #include "pricing/screens/frm_sum_rpt_data.h"
 #include "project/program_state.h"
 #include "project/screens/frm_gpd.h"
+#include "reports/screens/frm_banner.h"
 #include "reports/screens/frm_preview.h"
 #include "reports/screens/frm_report_options.h"
 #include "reports/screens/report_desk.h"
@@ -51,6 +52,7 @@ void EnterScreens() {
     RegisterScreen("frmListAddDelete",
                    []() -> Form* { return new frmListAddDelete(ListKind::Material); });
     RegisterScreen("frmReportOptions", Make<frmReportOptions>);
+    RegisterScreen("frmBanner", Make<frmBanner>);
     RegisterScreen("frmAbout", MakeAboutForm);
     RegisterScreen("frmTip", Make<frmTip>);
     RegisterScreen("frmStatus", Make<frmStatus>);

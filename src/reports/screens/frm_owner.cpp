@@ -13,6 +13,7 @@ namespace tendo {
 namespace {
 
 constexpr const char* AskedKey = "Company Asked For";
+constexpr int LongestText = 255;  // as much as the profile gives back
 bool mayAsk = true;
 
 struct OwnerField {
@@ -20,36 +21,41 @@ struct OwnerField {
     std::string OwnerRecord::*text;
 };
 const OwnerField ownerFields[] = {
-    {{.name = "txtOwnerName", .label = "&Company name", .width = 34}, &OwnerRecord::OwnerName},
-    {{.name = "txtOwnerAddress", .label = "&Address", .width = 34}, &OwnerRecord::OwnerAddress},
-    {{.name = "txtOwnerCity", .label = "C&ity", .width = 34}, &OwnerRecord::OwnerCity},
-    {{.name = "txtOwnerState", .label = "&State and zip", .width = 34}, &OwnerRecord::OwnerState},
-    {{.name = "txtOwnerPhone", .label = "&Telephone", .width = 34}, &OwnerRecord::OwnerPhone},
+    {{.name = "txtOwnerName", .label = "&Company name", .width = 34, .maxLength = LongestText},
+     &OwnerRecord::OwnerName},
+    {{.name = "txtOwnerAddress", .label = "&Address", .width = 34, .maxLength = LongestText},
+     &OwnerRecord::OwnerAddress},
+    {{.name = "txtOwnerCity", .label = "C&ity", .width = 34, .maxLength = LongestText},
+     &OwnerRecord::OwnerCity},
+    {{.name = "txtOwnerState", .label = "&State and zip", .width = 34, .maxLength = LongestText},
+     &OwnerRecord::OwnerState},
+    {{.name = "txtOwnerPhone", .label = "&Telephone", .width = 34, .maxLength = LongestText},
+     &OwnerRecord::OwnerPhone},
 };
 
 }  // namespace
 
-FrmOwner::FrmOwner() : Form("frmOwner", "Your Company", Place::Dialog) {
+FrmOwner::FrmOwner(const QString& giveUp) : Form("frmOwner", "Your Company", Place::Dialog) {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(16, 16, 16, 16);
     grid->setHorizontalSpacing(16);
     grid->setVerticalSpacing(8);
     auto* why = new QLabel(
-        "Proposals carry your company's name, address and telephone number at their head. They are "
-        "kept "
-        "with the program and stand on every job's reports.",
+        "Every proposal names your company at its head. What you enter here is kept with the "
+        "program and serves all jobs.",
         this);
     why->setWordWrap(true);
     why->setProperty("quiet", true);
     grid->addWidget(why, 0, 0, 1, 2);
-    int row = 1;
+    grid->setRowMinimumHeight(1, 4);
+    int row = 2;
     for (std::size_t i = 0; i < fields_.size(); ++i) {
         fields_[i] = AddFieldRow(grid, row++, ownerFields[i].spec, this);
         fields_[i]->setText(QString::fromStdString(Owner().*ownerFields[i].text));
     }
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(8);
-    auto* later = new QPushButton("&Later", this);
+    auto* later = new QPushButton(giveUp, this);
     later->setObjectName("btnLater");
     auto* keep = new QPushButton("&OK", this);
     keep->setObjectName("btnOK");
@@ -79,7 +85,7 @@ void AskForOwnerOnce() {
     if (!mayAsk || !Owner().IsEmpty() || !Settings().GetSetting("Options", AskedKey).empty())
         return;
     Settings().SaveSetting("Options", AskedKey, "1");
-    (new FrmOwner)->ShowModal();
+    (new FrmOwner("&Later"))->ShowModal();
 }
 
 void NeverAskForOwner() {

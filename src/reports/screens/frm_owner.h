@@ -12,7 +12,8 @@ class TextField;
 class FrmOwner : public Form {
     Q_OBJECT
   public:
-    FrmOwner();
+    /// `giveUp`: the caption of the button that leaves all as it was.
+    explicit FrmOwner(const QString& giveUp);
 
   private:
     void Store();
