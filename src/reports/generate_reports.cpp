@@ -99,7 +99,8 @@ bool PreviewInstallersOnly(ReportContext& context) {
 }
 
 bool PreviewBannerOnly(ReportContext& context) {
-    return PreviewOnly(context, [](ReportContext& banner) { PrintBanner(banner.surface); });
+    return PreviewOnly(context, "banner",
+                       [](ReportContext& banner) { PrintBanner(banner.surface); });
 }
 
 }  // namespace tendo

@@ -9,7 +9,6 @@
 #include "platform/qt/fields.h"
 #include "platform/qt/picture_box.h"
 #include "platform/text/runtime_error.h"
-#include "project/project_records.h"
 #include "reports/banner.h"
 #include "reports/generate_reports.h"
 #include "reports/screens/banner_view.h"
@@ -240,10 +239,8 @@ void frmBanner::Browse(std::size_t side) {
 
 void frmBanner::btnPreviewBanner_Click() {
     Store();
-    vsPreview_->ShowDocument(RunReports([](PrintSurface& surface) {
-                                 ReportContext context(surface, Project());
-                                 PreviewBannerOnly(context);
-                             }).document);
+    const ReportRun& run = RunReports([](ReportContext& context) { PreviewBannerOnly(context); });
+    vsPreview_->ShowDocument(run.document);
     const bool custom = !CustomBannerFile().empty();
     lblCustomBanner_->setVisible(custom);
     if (custom)
