@@ -149,6 +149,8 @@ void LeaveField() {
 void TypeText(QWidget* control, const QString& text) {
     FocusControl(control);
     if (auto* edit = qobject_cast<QLineEdit*>(control)) edit->selectAll();
+    if (auto* combo = qobject_cast<QComboBox*>(control); combo && combo->isEditable())
+        combo->lineEdit()->selectAll();
     if (auto* memo = qobject_cast<QPlainTextEdit*>(control)) memo->selectAll();
     if (auto* rich = qobject_cast<QTextEdit*>(control)) rich->selectAll();
     if (text.isEmpty()) SendKey(control, Qt::Key_Delete, Qt::NoModifier, "\x7f");
@@ -221,6 +223,8 @@ void ChooseItem(QWidget* control, const QString& item) {
     BringForward(control);
     if (auto* combo = qobject_cast<QComboBox*>(control)) {
         const int index = FindItem(item, combo->count(), [&](int i) { return combo->itemText(i); });
+        if (!(combo->model()->flags(combo->model()->index(index, 0)) & Qt::ItemIsEnabled))
+            throw std::runtime_error("the item \"" + item.toStdString() + "\" is disabled");
         combo->setFocus(Qt::MouseFocusReason);
         combo->setCurrentIndex(index);
         Q_EMIT combo->activated(index);

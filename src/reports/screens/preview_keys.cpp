@@ -91,7 +91,8 @@ bool PreviewPane::HandleSearchKey(const QKeyEvent& event) {
         return true;
     }
     if (!find_) return false;
-    if (event.key() == Qt::Key_F) return OpenSearch(), true;
+    if (event.key() == Qt::Key_F && event.modifiers() == Qt::ControlModifier)
+        return OpenSearch(), true;
     if (event.key() == Qt::Key_F3) {
         StepToMatch(event.modifiers() & Qt::ShiftModifier ? -1 : 1);
         return true;
