@@ -106,7 +106,7 @@ TEST_F(LineBreaking, ALineIsAsHighAsItsLargestFont) {
 
 TEST_F(LineBreaking, ATabGoesToItsStopAndElseToTheNextHalfInch) {
     const StyledRun run{"a\tb\tc", fonts.Id({}), 0};
-    const std::vector<TextLine> lines = BreakLines(fonts, {&run, 1}, {5000, 0, 0, {900}});
+    const std::vector<TextLine> lines = BreakLines(fonts, {&run, 1}, {5000, 0, 0, {{900}}});
     ASSERT_EQ(lines[0].fragments.size(), 3U);
     EXPECT_EQ(lines[0].fragments[1].x, 900);
     EXPECT_EQ(lines[0].fragments[2].x, 1440);

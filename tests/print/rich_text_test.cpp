@@ -2,22 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "rich_pieces.h"
+
 namespace tendo {
 namespace {
 
 RichText Read(std::string_view text) {
     return ReadRichOrPlainText(text, {});
-}
-
-/// The text alone, paragraphs parted by line ends.
-std::string PlainTextOf(const RichText& text) {
-    std::string plain;
-    for (const RichParagraph& paragraph : text.paragraphs) {
-        if (&paragraph != &text.paragraphs.front()) plain += '\n';
-        for (const RichRun& run : paragraph.runs)
-            plain += run.text;
-    }
-    return plain;
 }
 
 std::string Plain(std::string_view text) {
@@ -92,7 +83,7 @@ TEST(RichText, ParagraphsKeepAlignmentAndIndents) {
     EXPECT_EQ(text.paragraphs[2].firstIndent, -360);
     EXPECT_EQ(text.paragraphs[2].spaceBefore, 120);
     EXPECT_EQ(text.paragraphs[2].spaceAfter, 240);
-    EXPECT_EQ(text.paragraphs[2].tabs, std::vector<int>{1000});
+    EXPECT_EQ(text.paragraphs[2].tabs, std::vector<TabStop>{{1000}});
     EXPECT_EQ(text.paragraphs[3].align, RichAlign::Inherit);
 }
 

@@ -52,7 +52,7 @@ TEST(RtfWriter, ParagraphFormatsAndEmptyLinesReadBackTheSame) {
     text.paragraphs[0].rightIndent = 100;
     text.paragraphs[0].spaceBefore = 60;
     text.paragraphs[0].spaceAfter = 120;
-    text.paragraphs[0].tabs = {720, 1440};
+    text.paragraphs[0].tabs = {{720}, {1440}};
     text.paragraphs.emplace_back().runs = {Piece("")};
     text.paragraphs.emplace_back().runs = {Piece("right")};
     text.paragraphs[2].align = RichAlign::Right;
@@ -64,7 +64,7 @@ TEST(RtfWriter, ParagraphFormatsAndEmptyLinesReadBackTheSame) {
     EXPECT_EQ(read.paragraphs[0].rightIndent, 100);
     EXPECT_EQ(read.paragraphs[0].spaceBefore, 60);
     EXPECT_EQ(read.paragraphs[0].spaceAfter, 120);
-    EXPECT_EQ(read.paragraphs[0].tabs, (std::vector<int>{720, 1440}));
+    EXPECT_EQ(read.paragraphs[0].tabs, (std::vector<TabStop>{{720}, {1440}}));
     EXPECT_EQ(read.paragraphs[1].runs[0].text, "");
     EXPECT_EQ(read.paragraphs[1].leftIndent, 0);
     EXPECT_EQ(read.paragraphs[2].align, RichAlign::Right);

@@ -38,7 +38,7 @@ TEST(RichDocument, FormatsSurviveTheEditor) {
     EXPECT_EQ(second.rightIndent, 100);
     EXPECT_EQ(second.spaceBefore, 60);
     EXPECT_EQ(second.spaceAfter, 120);
-    EXPECT_EQ(second.tabs, std::vector<int>{1440});
+    EXPECT_EQ(second.tabs, std::vector<TabStop>{{1440}});
     EXPECT_EQ(second.runs[0].text, "one\ttwo\nthree");
     const RichRun& red = text.paragraphs[2].runs[0];
     EXPECT_EQ(red.font, (FontSpec{"Times New Roman", 210, false, true, true, true}));

@@ -1,5 +1,6 @@
 #include "platform/print/document.h"
 
+#include <cstdlib>
 #include <nlohmann/json.hpp>
 
 namespace tendo {
@@ -61,12 +62,20 @@ Json PageJson(const Page& page, const std::vector<FontSpec>& fonts) {
     return {{"texts", std::move(texts)}, {"shapes", std::move(shapes)}};
 }
 
+/// True for a raised or lowered sign that stands at the word before it, and for what follows it.
+bool IsRaised(const TextItem& before, const TextItem& text) {
+    constexpr int Highest = 130, Nearest = 20;
+    const int rise = std::abs(text.y - before.y);
+    return rise > 0 && rise < Highest && std::abs(text.x - before.x - before.width) < Nearest;
+}
+
 }  // namespace
 
 std::string PageText(const Page& page) {
     std::string text;
     for (std::size_t i = 0; i < page.texts.size(); ++i) {
-        if (i > 0) text += page.texts[i].y == page.texts[i - 1].y ? ' ' : '\n';
+        if (i > 0 && !IsRaised(page.texts[i - 1], page.texts[i]))
+            text += page.texts[i].y == page.texts[i - 1].y ? ' ' : '\n';
         text += page.texts[i].text;
     }
     return text;

@@ -6,6 +6,7 @@
 
 #include "platform/print/contrast.h"
 #include "platform/print/page_count.h"
+#include "platform/print/rich_row.h"
 #include "platform/print/running_fields.h"
 #include "platform/print/table_layout.h"
 
@@ -168,32 +169,40 @@ void LayoutSurface::WriteParagraph(std::string_view text) {
 }
 
 void LayoutSurface::WriteRich(const RichParagraph& paragraph) {
+    if (paragraph.pageBefore && flow_.y > Top) flow_.NewPage();
+    if (!paragraph.cells.empty())
+        return WriteRichRow(flow_, paragraph,
+                            {TextLeft, TextRight - TextLeft, LineSpacingPercent()});
     const int indent = std::clamp(paragraph.leftIndent, 0, TextRight - TextLeft - NarrowestText);
     const int left = TextLeft + indent;
     const int right =
         std::max(TextRight - std::max(paragraph.rightIndent, 0), left + NarrowestText);
     LineShape shape{
         right - left, std::clamp(paragraph.firstIndent, -indent, (right - left) / 2), 0, {}};
-    for (const int tab : paragraph.tabs)
-        shape.tabs.push_back(tab - indent);
+    for (TabStop tab : paragraph.tabs) {
+        tab.position -= indent;
+        shape.tabs.push_back(tab);
+    }
     if (flow_.y > Top) flow_.y += std::clamp(paragraph.spaceBefore, 0, Bottom);
     const std::vector<StyledRun> runs = StyledRuns(fonts_, paragraph);
-    WriteLines(BreakLines(fonts_, runs, shape), paragraph.align, left, right);
+    WriteLines(BreakLines(fonts_, runs, shape), paragraph, left, right);
     flow_.y += std::clamp(paragraph.spaceAfter, 0, Bottom);
 }
 
-void LayoutSurface::WriteLines(const std::vector<TextLine>& lines, RichAlign align, int left,
-                               int right) {
+void LayoutSurface::WriteLines(const std::vector<TextLine>& lines, const RichParagraph& paragraph,
+                               int left, int right) {
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (LeavesLoneLine(lines, i)) flow_.BreakPage();
-        WriteLine(lines[i], LineStart(align, left, right, lines[i].width));
+        if (LeavesLoneLine(lines, i, paragraph)) flow_.BreakPage();
+        WriteLine(lines[i], LineStart(paragraph.align, left, right, lines[i].width),
+                  LineHeight(lines[i], paragraph));
     }
 }
 
 /// No line of a paragraph stands alone at the foot of a page or at the head of the next.
-bool LayoutSurface::LeavesLoneLine(const std::vector<TextLine>& lines, std::size_t from) const {
+bool LayoutSurface::LeavesLoneLine(const std::vector<TextLine>& lines, std::size_t from,
+                                   const RichParagraph& paragraph) const {
     const std::size_t rest = lines.size() - from;
-    const int height = LineHeight(lines[from]);
+    const int height = LineHeight(lines[from], paragraph);
     if (rest < 2 || height > (Bottom - Top) / 8 || !flow_.Fits(height)) return false;
     if (from == 0 && !flow_.Fits(2 * height)) return true;
     if (from == 0 && rest == 3) return !flow_.Fits(3 * height);
@@ -201,14 +210,16 @@ bool LayoutSurface::LeavesLoneLine(const std::vector<TextLine>& lines, std::size
 }
 
 /// Line spacing is for running text. Centred lines stand in title and banner, among boxes and
-/// rules that have their fixed places.
-int LayoutSurface::LineHeight(const TextLine& line) const {
+/// rules that have their fixed places. Lines of an exact height may overlap a little, but never so
+/// that they can't be read.
+int LayoutSurface::LineHeight(const TextLine& line, const RichParagraph& paragraph) const {
     const bool display = Number(SurfaceOp::TextAlign) == Centred;
-    return display ? line.height : line.height * LineSpacingPercent() / 100;
+    const int height = display ? line.height : line.height * LineSpacingPercent() / 100;
+    if (paragraph.exactLine > 0) return std::max(paragraph.exactLine, height * 3 / 4);
+    return std::max(height * paragraph.lineSpacing / 100, paragraph.leastLine);
 }
 
-void LayoutSurface::WriteLine(const TextLine& line, double left) {
-    const int height = LineHeight(line);
+void LayoutSurface::WriteLine(const TextLine& line, double left, int height) {
     const bool heading = IsOnBar(line);
     if (!flow_.Fits(heading ? height * LinesWithHeading : height)) flow_.BreakPage();
     if (heading) {

@@ -48,10 +48,12 @@ class LayoutSurface : public PrintSurface {
     void DoAction(int action);
     void WriteParagraph(std::string_view text);
     void WriteRich(const RichParagraph& paragraph);
-    void WriteLines(const std::vector<TextLine>& lines, RichAlign align, int left, int right);
-    bool LeavesLoneLine(const std::vector<TextLine>& lines, std::size_t from) const;
-    int LineHeight(const TextLine& line) const;
-    void WriteLine(const TextLine& line, double left);
+    void WriteLines(const std::vector<TextLine>& lines, const RichParagraph& paragraph, int left,
+                    int right);
+    bool LeavesLoneLine(const std::vector<TextLine>& lines, std::size_t from,
+                        const RichParagraph& paragraph) const;
+    int LineHeight(const TextLine& line, const RichParagraph& paragraph) const;
+    void WriteLine(const TextLine& line, double left, int height);
     bool IsOnBar(const TextLine& line) const;
     void WriteHeading(const TextLine& line, double left);
     void KeepRuleBelow(int bottom);

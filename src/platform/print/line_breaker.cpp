@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
+#include <optional>
 
 namespace tendo {
 
@@ -15,6 +17,15 @@ struct Piece {
     int font = 0;
     Rgb color = 0;
     double width = 0;
+    int rise = 0;
+};
+
+/// A tab under way whose text is moved to its stop when it is known.
+struct OpenTab {
+    TabStop stop;
+    double start = 0;
+    std::size_t firstFragment = 0;
+    StyledRun run;
 };
 
 /// Bytes of the first character; a broken byte counts as one.
@@ -78,10 +89,10 @@ class LineBreaker {
             std::size_t bytes = 0;
             while (bytes < LongestMeasured)
                 bytes += CharacterBytes(word.substr(bytes));
-            AddWordPart({word.substr(0, bytes), run.font, run.color, 0});
+            AddWordPart({word.substr(0, bytes), run.font, run.color, 0, run.rise});
             word.remove_prefix(bytes);
         }
-        AddWordPart({word, run.font, run.color, 0});
+        AddWordPart({word, run.font, run.color, 0, run.rise});
     }
 
     void AddWordPart(Piece piece) {
@@ -93,10 +104,11 @@ class LineBreaker {
     void AddBreak(char character, const StyledRun& run) {
         FlushWord();
         if (character == ' ') {
-            blanks_.push_back({" ", run.font, run.color, fonts_.SpaceWidth(run.font)});
+            blanks_.push_back({" ", run.font, run.color, fonts_.SpaceWidth(run.font), run.rise});
         } else if (character == '\t') {
             PlaceBlanks();
-            x_ = NextTab();
+            CloseTab();
+            StartTab(run);
         } else if (character == '\n') {
             EndLine();
             StartLine(shape_.firstIndent);
@@ -106,11 +118,63 @@ class LineBreaker {
     void StartLine(double x) { x_ = start_ = x; }
     bool IsStarted() const { return x_ > start_; }
 
-    double NextTab() const {
-        for (const int tab : shape_.tabs)
-            if (tab > x_) return tab;
-        if (x_ < shape_.restIndent) return shape_.restIndent;
-        return (std::floor(x_ / DefaultTab) + 1) * DefaultTab;
+    TabStop NextTab() const {
+        for (const TabStop& tab : shape_.tabs)
+            if (tab.position > x_) return tab;
+        if (x_ < shape_.restIndent) return {shape_.restIndent};
+        return {static_cast<int>(std::floor(x_ / DefaultTab) + 1) * DefaultTab};
+    }
+
+    void StartTab(const StyledRun& run) {
+        const TabStop stop = NextTab();
+        tab_ = {stop, x_, line_.fragments.size(), run};
+        if (stop.align != TabAlign::Left) return;
+        x_ = stop.position;
+        AddLeader(x_);
+        tab_.reset();
+    }
+
+    /// What stands behind the tab moves to its stop, as far as there is room.
+    void CloseTab() {
+        if (!tab_) return;
+        const double width = x_ - tab_->start;
+        const double before = tab_->stop.align == TabAlign::Right    ? width
+                              : tab_->stop.align == TabAlign::Center ? width / 2
+                                                                     : WidthBeforePoint(width);
+        const double shift = std::max(tab_->stop.position - before - tab_->start, 0.0);
+        for (std::size_t i = tab_->firstFragment; i < line_.fragments.size(); ++i)
+            line_.fragments[i].x += shift;
+        x_ += shift;
+        if (line_.fragments.size() > tab_->firstFragment) line_.width += shift;
+        AddLeader(tab_->start + shift);
+        tab_.reset();
+    }
+
+    double WidthBeforePoint(double width) const {
+        for (std::size_t i = tab_->firstFragment; i < line_.fragments.size(); ++i) {
+            const LineFragment& fragment = line_.fragments[i];
+            const std::size_t point = fragment.text.rfind('.');
+            if (point == std::string::npos) continue;
+            const std::string_view behind = std::string_view(fragment.text).substr(point);
+            return fragment.x + fragment.width - fonts_.TextWidth(fragment.font, behind) -
+                   tab_->start;
+        }
+        return width;
+    }
+
+    /// Leaders stand in columns, whatever the texts before them.
+    void AddLeader(double end) {
+        if (tab_->stop.leader == '\0') return;
+        const std::string sign(1, tab_->stop.leader);
+        const double width = std::max(fonts_.WordWidth(tab_->run.font, sign), 1.0);
+        const double first = std::ceil(tab_->start / width + 0.5) * width;
+        const double count = std::floor((end - first) / width - 0.5);
+        if (count < 1) return;
+        const auto place =
+            line_.fragments.begin() + static_cast<std::ptrdiff_t>(tab_->firstFragment);
+        line_.fragments.insert(place, {first, count * width, tab_->run.font, tab_->run.color,
+                                       std::string(static_cast<std::size_t>(count), sign[0]), 0});
+        line_.width = std::max(line_.width, first + count * width);
     }
 
     void FlushWord() {
@@ -158,7 +222,8 @@ class LineBreaker {
         std::string_view rest = piece.text;
         while (!rest.empty()) {
             const std::string_view part = rest.substr(0, bytesOfFirst(rest));
-            place(Piece{part, piece.font, piece.color, fonts_.WordWidth(piece.font, part)});
+            place(Piece{part, piece.font, piece.color, fonts_.WordWidth(piece.font, part),
+                        piece.rise});
             rest.remove_prefix(part.size());
         }
     }
@@ -172,9 +237,10 @@ class LineBreaker {
     }
 
     void Place(const Piece& piece) {
-        if (!line_.fragments.empty()) {
+        if (line_.fragments.size() > (tab_ ? tab_->firstFragment : 0)) {
             LineFragment& last = line_.fragments.back();
-            if (last.font == piece.font && last.color == piece.color && last.x + last.width == x_) {
+            if (last.font == piece.font && last.color == piece.color && last.rise == piece.rise &&
+                last.x + last.width == x_) {
                 last.text += piece.text;
                 last.width += piece.width;
                 x_ = last.x + last.width;
@@ -183,21 +249,22 @@ class LineBreaker {
             }
         }
         line_.fragments.push_back(
-            {x_, piece.width, piece.font, piece.color, std::string(piece.text)});
+            {x_, piece.width, piece.font, piece.color, std::string(piece.text), piece.rise});
         x_ += piece.width;
         if (piece.text != " ") line_.width = x_;
     }
 
     void EndLine() {
         blanks_.clear();
-        const auto grow = [&](int font) {
+        CloseTab();
+        const auto grow = [&](int font, int rise) {
             const FontMetrics& metrics = fonts_.Metrics(font);
-            line_.ascent = std::max(line_.ascent, metrics.ascent);
-            line_.height = std::max(line_.height, metrics.lineHeight);
+            line_.ascent = std::max(line_.ascent, metrics.ascent + rise);
+            line_.height = std::max(line_.height, metrics.lineHeight + std::abs(rise));
         };
         for (const LineFragment& fragment : line_.fragments)
-            grow(fragment.font);
-        if (line_.fragments.empty()) grow(font_);
+            grow(fragment.font, fragment.rise);
+        if (line_.fragments.empty()) grow(font_, 0);
         lines_.push_back(std::move(line_));
         line_ = {};
     }
@@ -207,6 +274,7 @@ class LineBreaker {
     std::vector<TextLine> lines_;
     TextLine line_;
     std::vector<Piece> word_, blanks_;
+    std::optional<OpenTab> tab_;
     double wordWidth_ = 0;
     double x_ = 0, start_ = 0;
     int font_ = 0;
@@ -217,7 +285,7 @@ class LineBreaker {
 std::vector<StyledRun> StyledRuns(FontTable& fonts, const RichParagraph& paragraph) {
     std::vector<StyledRun> runs;
     for (const RichRun& run : paragraph.runs)
-        runs.push_back({run.text, fonts.Id(run.font), run.color});
+        runs.push_back({run.text, fonts.Id(run.font), run.color, run.rise});
     return runs;
 }
 

@@ -11,11 +11,13 @@
 
 namespace tendo {
 
-/// Text in one font and colour; '\n' ends a line, '\t' goes to the next tab stop.
+/// Text in one font and colour, `rise` twips above the base line; '\n' ends a line, '\t' goes to
+/// the next tab stop.
 struct StyledRun {
     std::string_view text;
     int font = 0;
     Rgb color = 0;
+    int rise = 0;
 };
 
 /// The runs of a paragraph with the numbers of their fonts; the texts stay the paragraph's.
@@ -27,6 +29,7 @@ struct LineFragment {
     int font = 0;
     Rgb color = 0;
     std::string text;
+    int rise = 0;
 };
 
 /// A broken line. `width` without blanks at its end; heights in twips at single spacing.
@@ -40,7 +43,7 @@ struct TextLine {
 struct LineShape {
     int width = 0;
     int firstIndent = 0, restIndent = 0;
-    std::vector<int> tabs;
+    std::vector<TabStop> tabs;
 };
 
 /// Breaks runs into lines. Blanks at a paragraph's start stay, those at a break vanish; a word

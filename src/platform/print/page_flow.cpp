@@ -110,7 +110,7 @@ void PageFlow::AddLine(const TextLine& line, double left, int top) {
     for (const LineFragment& fragment : line.fragments) {
         if (fragment.text.find_first_not_of(' ') == std::string::npos) continue;
         Current().texts.push_back({static_cast<int>(std::lround(left + fragment.x)),
-                                   top + line.ascent, static_cast<int>(std::lround(fragment.width)),
+                                   top + line.ascent - fragment.rise, static_cast<int>(std::lround(fragment.width)),
                                    fragment.font, fragment.color, fragment.text});
     }
 }

@@ -5,25 +5,40 @@
 #include <vector>
 
 #include "platform/print/document.h"
+#include "platform/print/tab_stop.h"
 
 namespace tendo {
 
-/// Text in one format.
+/// Text in one format. `rise` lifts it above the base line (below it when negative), in twips.
 struct RichRun {
     std::string text;  // UTF-8; '\n' is a line break within the paragraph, '\t' a tab
     FontSpec font;
     Rgb color = 0;
+    int rise = 0;
 };
 
 enum class RichAlign { Inherit, Left, Center, Right };
 
-/// Indents and spaces in twips; `firstIndent` counts from `leftIndent`.
+/// A cell of a table's row; `right` is its edge in twips from the text's left edge, 0 when unknown.
+struct RichCell {
+    int right = 0;
+    RichAlign align = RichAlign::Inherit;
+    bool boxed = false;  // drawn with lines around it
+    friend bool operator==(const RichCell&, const RichCell&) = default;
+};
+
+/// Indents and spaces in twips; `firstIndent` counts from `leftIndent`. Lines are `lineSpacing`
+/// percent of their height apart and at least `leastLine` twips, or just `exactLine` when it is
+/// given.
 struct RichParagraph {
     RichAlign align = RichAlign::Inherit;
     int leftIndent = 0, rightIndent = 0, firstIndent = 0;
     int spaceBefore = 0, spaceAfter = 0;
-    std::vector<int> tabs;
-    bool bullet = false;  // a point of a list: its text begins with the mark and a tab
+    int lineSpacing = 100, leastLine = 0, exactLine = 0;
+    std::vector<TabStop> tabs;
+    bool bullet = false;          // a point of a list: its text begins with the mark and a tab
+    bool pageBefore = false;      // begins on a new page
+    std::vector<RichCell> cells;  // of a table's row: tabs part its cells; none in other paragraphs
     std::vector<RichRun> runs;
 };
 

@@ -1,10 +1,16 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
-#include "platform/print/rich_model.h"
+#include "platform/print/rich_builder.h"
+#include "platform/print/rtf_list.h"
+#include "platform/print/rtf_scanner.h"
+#include "platform/print/rtf_words.h"
 
 namespace tendo {
 
@@ -16,68 +22,91 @@ class RtfReader {
 
   private:
     /// What the text of a group is for.
-    enum class Destination { Text, FontTable, ColorTable, Skipped };
+    enum class Destination {
+        Text,
+        FontTable,
+        ColorTable,
+        ListStyle,
+        ListBefore,
+        ListAfter,
+        Skipped
+    };
+    enum class Script { OnBaseLine, Super, Sub };
+    struct Font {
+        std::string name;
+        int codePage = 0;  // 0 is the document's
+        bool symbol = false;
+    };
     struct State {
         RichRun format;
         RichParagraph paragraph;  // its formats only
         Destination destination = Destination::Text;
-        int unicodeSkip = 1;  // bytes that stand for a \u character in older readers
-        bool symbolFont = false;
-        int codePage = 0;  // of the font; 0 is the document's
-    };
-    struct Font {
-        int number = 0;
-        std::string name;
-        bool symbol = false;
-        int codePage = 0;
-    };
-    struct Control {
-        std::string_view word;
-        int number = 0;
-        bool hasNumber = false;
-        bool On() const { return !hasNumber || number != 0; }
+        Destination outside = Destination::Text;  // of what a substituted group stands in
+        int font = -1;                            // number of the font
+        int unicodeSkip = 1;  // characters that stand for a \u character in older readers
+        int rise = 0;
+        int lineHeight = 0;
+        bool lineMultiple = false;
+        Script script = Script::OnBaseLine;
+        TabStop tab;
+        RtfListStyle list;
+        std::size_t listOwner = 0;  // the state that the style of a list holds for
+        bool inTable = false, hidden = false, capitals = false, cellBorder = false, note = false,
+             nestedProps = false;
     };
 
-    void Step();
+    void Step(const RtfToken& token);
     void OpenGroup();
     void CloseGroup();
-    void Backslash();
-    void HexByte();
-    Control ReadControl();
-    void Apply(const Control& control);
-    bool ApplyDestination(const Control& control);
-    bool ApplyFont(const Control& control);
-    bool ApplyParagraph(const Control& control);
-    bool ApplyCharacter(const Control& control);
-    bool ApplyCodePage(const Control& control);
-    void ApplyColorEntry(const Control& control);
-
-    void AddByte(unsigned char byte);
-    void AddText(std::string_view text);
-    void AddCodePageByte(unsigned char byte);
-    void AddUnicode(int number);
-    void AddTableText(char character);
-    void EndParagraph();
+    void Symbol(unsigned char sign);
+    void Word(const RtfToken& token);
+    bool ApplyDestination(const RtfWord& word);
+    bool ApplyListGroup(RtfMeaning meaning);
+    void StartDocument();
+    void ApplyHead(const RtfWord& word, const RtfToken& token);
+    void ApplyCharacter(const RtfWord& word, const RtfToken& token);
+    void ApplyParagraph(const RtfWord& word, const RtfToken& token);
+    void ApplyList(const RtfWord& word, const RtfToken& token);
+    void ApplyRow(const RtfWord& word, const RtfToken& token);
+    void SetScript(Script script) { Now().script = script; }
+    void SetPlain();
+    void SetTab(int position);
     void SelectFont(int number);
+
+    void AddByte(unsigned char byte, bool raw);
+    void AddHeadByte(char character);
+    void AddListByte(char character);
+    void AddEncoded(unsigned char byte);
+    const std::string& Decoded(const std::string& bytes, int page);
+    void AddUnicode(int number);
+    void AddText(std::string_view text);
+    void EndParagraph();
+
+    bool InText() const { return states_.back().destination == Destination::Text && tooDeep_ == 0; }
+    bool SkipsOne() { return skip_ > 0 && skip_-- > 0; }
+    const Font& FontInUse() const;
+    RichRun Format() const;
+    RichParagraph ParagraphFormat() const;
     State& Now() { return states_.back(); }
 
-    std::string_view text_;
-    std::size_t at_ = 0;
+    RtfScanner scanner_;
     RichRun base_;
     std::vector<State> states_;
+    RichBuilder builder_;
+    RtfLists lists_;
     int tooDeep_ = 0;  // open groups beyond the depth that is followed
-    int skipBytes_ = 0;
+    int skip_ = 0;     // characters still to be left out behind a \u
     bool starred_ = false;
     bool wholeDocument_ = false;
-    bool listText_ = false;  // the paragraph has a list's mark
+    bool ended_ = false;
+    bool cellBoxed_ = false;
     char32_t highSurrogate_ = 0;
     int documentPage_ = 1252;
     std::string leadByte_;  // the first half of a character of two bytes
-    std::vector<Font> fonts_;
+    std::map<std::pair<int, std::string>, std::string> decoded_;
+    std::unordered_map<int, Font> fonts_;
     std::vector<Rgb> colors_;
     Rgb colorEntry_ = 0;
-    RichText result_;
-    std::vector<RichRun> runs_;
 };
 
 }  // namespace tendo

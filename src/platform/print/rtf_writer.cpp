@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstdlib>
 #include <vector>
 
 #include "platform/text/utf8.h"
@@ -52,7 +53,50 @@ std::string EscapedText(std::string_view text) {
 }
 
 constexpr std::string_view Alignments[] = {"", "\\ql", "\\qc", "\\qr"};
+constexpr std::string_view TabKinds[] = {"", "\\tqc", "\\tqr", "\\tqdec"};
 constexpr std::string_view SymbolFont = "Symbol";
+
+std::string LeaderWord(char leader) {
+    if (leader == '.') return "\\tldot";
+    if (leader == '-') return "\\tlhyph";
+    return leader == '_' ? "\\tlul" : "";
+}
+
+/// Where the mark ends that begins with the "<" at `start`: a word of capitals or dollar signs in
+/// angle brackets. npos when it is none.
+std::size_t EndOfMark(std::string_view text, std::size_t start) {
+    constexpr std::size_t LongestMark = 12;
+    for (std::size_t at = start + 1; at < std::min(text.size(), start + LongestMark); ++at) {
+        if (text[at] == '>') return at + 1;
+        if (text[at] != '$' && (text[at] < 'A' || text[at] > 'Z')) break;
+    }
+    return std::string_view::npos;
+}
+
+/// Moves the first `count` bytes of the runs behind `place` into the run there.
+void TakeFromFollowing(std::vector<RichRun>& runs, std::size_t place, std::size_t count) {
+    for (std::size_t next = place + 1; count > 0 && next < runs.size(); ++next) {
+        const std::size_t taken = std::min(count, runs[next].text.size());
+        runs[place].text += runs[next].text.substr(0, taken);
+        runs[next].text.erase(0, taken);
+        count -= taken;
+    }
+}
+
+/// A mark in angle brackets ("<PAGE>") is searched for in the written text, so it takes the format
+/// of its first character and is never parted by the words of another one.
+void JoinMarks(std::vector<RichRun>& runs) {
+    for (std::size_t i = 0; i + 1 < runs.size(); ++i) {
+        const std::size_t start = runs[i].text.rfind('<');
+        if (start == std::string::npos) continue;
+        std::string text = runs[i].text.substr(start);
+        const std::size_t own = text.size();
+        for (std::size_t next = i + 1; next < runs.size() && text.size() < 16; ++next)
+            text += runs[next].text.substr(0, 16);
+        const std::size_t end = EndOfMark(text, 0);
+        if (end != std::string::npos && end > own) TakeFromFollowing(runs, i, end - own);
+    }
+}
 
 class RtfWriter {
   public:
@@ -63,11 +107,24 @@ class RtfWriter {
     }
 
   private:
-    void AddParagraph(const RichParagraph& paragraph) {
-        body_ += "\\pard";
+    void AddParagraph(const RichParagraph& given) {
+        RichParagraph paragraph = given;
+        JoinMarks(paragraph.runs);
+        if (!paragraph.cells.empty()) return AddRow(paragraph);
+        body_ += paragraph.pageBefore ? "\\pard\\pagebb" : "\\pard";
         const bool bullet = paragraph.bullet && !paragraph.runs.empty() &&
                             paragraph.runs.front().text.starts_with(BulletMark);
         if (bullet) AddBullet();
+        AddParagraphFormat(paragraph);
+        for (const RichRun& run : paragraph.runs) {
+            std::string_view shown = run.text;
+            if (bullet && &run == &paragraph.runs.front()) shown.remove_prefix(BulletMark.size());
+            AddRun(run, shown);
+        }
+        body_ += "\\par\r\n";
+    }
+
+    void AddParagraphFormat(const RichParagraph& paragraph) {
         body_ += Alignments[static_cast<std::size_t>(paragraph.align)];
         const std::array<std::pair<std::string_view, int>, 5> measures = {
             {{"fi", paragraph.firstIndent},
@@ -77,14 +134,48 @@ class RtfWriter {
              {"sa", paragraph.spaceAfter}}};
         for (const auto& [word, twips] : measures)
             if (twips != 0) body_ += Word(word, twips);
-        for (const int tab : paragraph.tabs)
-            body_ += Word("tx", tab);
-        for (const RichRun& run : paragraph.runs) {
-            std::string_view shown = run.text;
-            if (bullet && &run == &paragraph.runs.front()) shown.remove_prefix(BulletMark.size());
-            AddRun(run, shown);
+        if (paragraph.exactLine > 0)
+            body_ += Word("sl", -paragraph.exactLine) + "\\slmult0";
+        else if (paragraph.leastLine > 0)
+            body_ += Word("sl", paragraph.leastLine) + "\\slmult0";
+        else if (paragraph.lineSpacing != 100)
+            body_ += Word("sl", (paragraph.lineSpacing * 240 + 50) / 100) + "\\slmult1";
+        for (const TabStop& tab : paragraph.tabs) {
+            body_ += TabKinds[static_cast<std::size_t>(tab.align)];
+            body_ += LeaderWord(tab.leader) + Word("tx", tab.position);
         }
-        body_ += "\\par\r\n";
+    }
+
+    void AddRow(const RichParagraph& row) {
+        body_ += "\\trowd\\trgaph108" + Word("trleft", row.leftIndent);
+        for (const RichCell& cell : row.cells) {
+            if (cell.boxed)
+                for (const char side : {'t', 'l', 'b', 'r'})
+                    body_ += std::string("\\clbrdr") + side + "\\brdrs\\brdrw10";
+            body_ += Word("cellx", row.leftIndent + cell.right);
+        }
+        auto cell = row.cells.begin();
+        const auto begin = [&] {
+            body_ += "\\pard\\intbl";
+            body_ += Alignments[static_cast<std::size_t>(cell->align)];
+        };
+        begin();
+        for (const RichRun& run : row.runs) {
+            std::string_view rest = run.text;
+            for (std::size_t tab = rest.find('\t');
+                 tab != std::string_view::npos && cell + 1 != row.cells.end();
+                 tab = rest.find('\t')) {
+                AddRun(run, rest.substr(0, tab));
+                body_ += "\\cell";
+                ++cell;
+                begin();
+                rest.remove_prefix(tab + 1);
+            }
+            AddRun(run, rest);
+        }
+        for (; cell != row.cells.end(); ++cell)
+            body_ += "\\cell";
+        body_ += "\\row\r\n";
     }
 
     /// The mark as text for readers that know no lists, and as a list for those that do.
@@ -102,6 +193,7 @@ class RtfWriter {
         if (font.italic) body_ += "\\i";
         if (font.underline) body_ += "\\ul";
         if (font.strike) body_ += "\\strike";
+        if (run.rise != 0) body_ += Word(run.rise > 0 ? "up" : "dn", std::abs(run.rise) / 10);
         // Entry 0 is the automatic colour, which is black.
         if (run.color != 0) body_ += Word("cf", PlaceIn(colors_, run.color) + 1);
         body_ += " " + EscapedText(shown);

@@ -45,16 +45,84 @@ RichAlign AlignOf(Qt::Alignment alignment) {
     return alignment & Qt::AlignRight ? RichAlign::Right : RichAlign::Left;
 }
 
+/// What the toolkit's formats have no place for.
+enum Kept { KeptLeaders = QTextFormat::UserProperty + 1, KeptCells, KeptRise };
+
+const QTextOption::TabType TabTypes[] = {QTextOption::LeftTab, QTextOption::CenterTab,
+                                         QTextOption::RightTab, QTextOption::DelimiterTab};
+
+void SetTabs(QTextBlockFormat& format, const RichParagraph& paragraph) {
+    QList<QTextOption::Tab> tabs;
+    QString leaders;
+    for (const TabStop& tab : paragraph.tabs) {
+        tabs.append(
+            {Pixels(tab.position), TabTypes[static_cast<std::size_t>(tab.align)], QChar(u'.')});
+        leaders.append(QChar::fromLatin1(tab.leader));
+    }
+    for (const RichCell& cell : paragraph.cells)
+        if (cell.right > 0) tabs.append({Pixels(cell.right), QTextOption::LeftTab, QChar()});
+    format.setTabPositions(tabs);
+    if (!leaders.isEmpty()) format.setProperty(KeptLeaders, leaders);
+}
+
+std::vector<TabStop> TabsOf(const QTextBlockFormat& format) {
+    const QString leaders = format.stringProperty(KeptLeaders);
+    std::vector<TabStop> tabs;
+    for (const QTextOption::Tab& tab : format.tabPositions()) {
+        const auto* type = std::find(std::begin(TabTypes), std::end(TabTypes), tab.type);
+        const auto place = static_cast<qsizetype>(tabs.size());
+        tabs.push_back({Twips(tab.position), static_cast<TabAlign>(type - std::begin(TabTypes)),
+                        place < leaders.size() ? leaders.at(place).toLatin1() : '\0'});
+    }
+    return tabs;
+}
+
+/// A row of a table stands in the editor with tabs between its cells.
+void SetCells(QTextBlockFormat& format, const std::vector<RichCell>& cells) {
+    QVariantList kept;
+    for (const RichCell& cell : cells)
+        kept << cell.right << static_cast<int>(cell.align) << cell.boxed;
+    if (!kept.isEmpty()) format.setProperty(KeptCells, kept);
+}
+
+/// The cells, when the row still has as many.
+std::vector<RichCell> CellsOf(const QTextBlock& block) {
+    const QVariantList kept = block.blockFormat().property(KeptCells).toList();
+    std::vector<RichCell> cells;
+    for (qsizetype i = 0; i + 2 < kept.size(); i += 3)
+        cells.push_back(
+            {kept[i].toInt(), static_cast<RichAlign>(kept[i + 1].toInt()), kept[i + 2].toBool()});
+    const auto tabs = static_cast<std::size_t>(block.text().count(u'\t'));
+    return cells.size() == tabs + 1 ? cells : std::vector<RichCell>();
+}
+
+void SetLineHeight(QTextBlockFormat& format, const RichParagraph& paragraph) {
+    if (paragraph.exactLine > 0)
+        format.setLineHeight(Pixels(paragraph.exactLine), QTextBlockFormat::FixedHeight);
+    else if (paragraph.leastLine > 0)
+        format.setLineHeight(Pixels(paragraph.leastLine), QTextBlockFormat::MinimumHeight);
+    else if (paragraph.lineSpacing != 100)
+        format.setLineHeight(paragraph.lineSpacing, QTextBlockFormat::ProportionalHeight);
+}
+
+void TakeLineHeight(RichParagraph& paragraph, const QTextBlockFormat& format) {
+    const int type = format.lineHeightType();
+    if (type == QTextBlockFormat::FixedHeight) paragraph.exactLine = Twips(format.lineHeight());
+    if (type == QTextBlockFormat::MinimumHeight) paragraph.leastLine = Twips(format.lineHeight());
+    if (type == QTextBlockFormat::ProportionalHeight)
+        paragraph.lineSpacing = static_cast<int>(std::lround(format.lineHeight()));
+}
+
 QTextBlockFormat BlockFormatOf(const RichParagraph& paragraph) {
     QTextBlockFormat format;
     format.setAlignment(AlignmentOf(paragraph.align));
     format.setRightMargin(Pixels(paragraph.rightIndent));
     format.setTopMargin(Pixels(paragraph.spaceBefore));
     format.setBottomMargin(Pixels(paragraph.spaceAfter));
-    QList<QTextOption::Tab> tabs;
-    for (const int tab : paragraph.tabs)
-        tabs.append(QTextOption::Tab(Pixels(tab), QTextOption::LeftTab));
-    format.setTabPositions(tabs);
+    SetTabs(format, paragraph);
+    SetCells(format, paragraph.cells);
+    SetLineHeight(format, paragraph);
+    if (paragraph.pageBefore) format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     if (paragraph.bullet) return format;  // the list has the indent
     format.setLeftMargin(Pixels(paragraph.leftIndent));
     format.setTextIndent(Pixels(paragraph.firstIndent));
@@ -119,8 +187,10 @@ RichParagraph ParagraphOf(const QTextBlock& block) {
     paragraph.rightIndent = Twips(format.rightMargin());
     paragraph.spaceBefore = Twips(format.topMargin());
     paragraph.spaceAfter = Twips(format.bottomMargin());
-    for (const QTextOption::Tab& tab : format.tabPositions())
-        paragraph.tabs.push_back(Twips(tab.position));
+    TakeLineHeight(paragraph, format);
+    paragraph.pageBefore = (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) != 0;
+    paragraph.cells = CellsOf(block);
+    if (paragraph.cells.empty()) paragraph.tabs = TabsOf(format);
     AddRuns(block, paragraph);
     if (const QTextList* list = block.textList())
         MakeBullet(paragraph, list->format().indent() + format.indent());
@@ -137,6 +207,11 @@ QTextCharFormat CharFormatOf(const RichRun& run) {
     format.setFontItalic(run.font.italic);
     format.setFontUnderline(run.font.underline);
     format.setFontStrikeOut(run.font.strike);
+    if (run.rise != 0) {
+        format.setProperty(KeptRise, run.rise);
+        format.setVerticalAlignment(run.rise > 0 ? QTextCharFormat::AlignSuperScript
+                                                 : QTextCharFormat::AlignSubScript);
+    }
     if (run.color != 0) format.setForeground(QColor::fromRgb(run.color));
     return format;
 }
@@ -152,6 +227,7 @@ RichRun RunFormatOf(const QTextCharFormat& format) {
     run.font.italic = format.fontItalic();
     run.font.underline = format.fontUnderline();
     run.font.strike = format.fontStrikeOut();
+    run.rise = format.intProperty(KeptRise);
     if (format.hasProperty(QTextFormat::ForegroundBrush))
         run.color = format.foreground().color().rgb() & 0xFFFFFF;
     return run;

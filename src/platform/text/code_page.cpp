@@ -105,8 +105,11 @@ class PageConversion {
 
 }  // namespace
 
-bool IsDoubleByteCodePage(int page) {
-    return page == 932 || page == 936 || page == 949 || page == 950;
+bool IsLeadByte(unsigned char byte, int page) {
+    if (page == 932)  // half-width Katakana stand between the leads
+        return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
+    const bool wide = page == 936 || page == 949 || page == 950;
+    return wide && byte >= 0x81 && byte <= 0xFE;
 }
 
 std::string FromCodePage(std::string_view bytes, int page) {

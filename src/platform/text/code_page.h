@@ -15,8 +15,8 @@ std::string ToWindows1252(std::string_view text);
 /// Bytes of a Windows, DOS or Macintosh code page (1251, 437, 10000 ...) to UTF-8. Bytes that stand
 /// for nothing there become U+FFFD; a page that isn't known is read as 1252.
 std::string FromCodePage(std::string_view bytes, int page);
-/// True for the pages whose characters above 127 take two bytes.
-bool IsDoubleByteCodePage(int page);
+/// True when a byte is the first half of a character of two bytes in a page of the Far East.
+bool IsLeadByte(unsigned char byte, int page);
 /// Bytes of a text file: UTF-8 (with or without mark), UTF-16 with a mark, else Windows-1252.
 std::string FromTextFileBytes(std::string_view bytes);
 
