@@ -401,16 +401,16 @@ void EnhancedInput::SetAdjustFontForBigNumbers(bool adjusts) {
     if (adjusts && !fits) throw RuntimeError(invalidProcedureCall, "Wrong kind of control.");
     adjustsFont_ = adjusts;
     if (!adjusts) return;
-    designFontSize_ = std::max(1, owner_->fontInfo().pointSize());
+    designFont_ = owner_->font();
     FitFont();
 }
 
 void EnhancedInput::FitFont() const {
     constexpr int frame = 20;  // border and padding on both sides
-    const bool bare = qobject_cast<QLabel*>(owner_);
+    const int room = owner_->width() - (qobject_cast<QLabel*>(owner_) ? 0 : frame);
     const QString text = Text();
     const auto fontOf = [this](const FittingFont& fitting) {
-        QFont font = owner_->font();
+        QFont font = designFont_;
         // These families are the program's own choice where the desktop has them.
         font.setFamilies({QString::fromStdString(fitting.family), QApplication::font().family()});
         font.setPointSize(fitting.size);
@@ -419,8 +419,10 @@ void EnhancedInput::FitFont() const {
     const auto textWidth = [&](const FittingFont& fitting) {
         return QFontMetrics(fontOf(fitting)).horizontalAdvance(text);
     };
-    owner_->setFont(
-        fontOf(FontForWidth(owner_->width() - (bare ? 0 : frame), designFontSize_, textWidth)));
+    const int designSize = std::max(1, QFontInfo(designFont_).pointSize());
+    const bool fits = QFontMetrics(designFont_).horizontalAdvance(text) <= room;
+    const QFont font = fits ? designFont_ : fontOf(FontForWidth(room, designSize, textWidth));
+    if (owner_->font() != font) owner_->setFont(font);
 }
 
 void ChainFields(const std::vector<EnhancedInput*>& fields) {

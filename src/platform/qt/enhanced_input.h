@@ -117,7 +117,7 @@ class EnhancedInput : public QObject {
     QPointer<QListWidget> watchedList_;
     bool helpDisabled_ = false;
     bool adjustsFont_ = false;
-    int designFontSize_ = 0;
+    QFont designFont_;  // while the text fits
 };
 
 /// Ties fields into the order of the eye: Up and Down, and Return, lead from one to the next; Left

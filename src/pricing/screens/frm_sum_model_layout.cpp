@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "platform/qt/dialogs.h"
+#include "platform/qt/enhanced_input.h"
 #include "platform/qt/theme.h"
 #include "pricing/screens/frm_sum_model_data.h"
 #include "pricing/screens/scroll_column.h"
@@ -63,11 +64,13 @@ constexpr Single singles[] = {
     {TableField::TotalGrossMargin, totalRow, 3},     {TableField::TotalSalePrice, totalRow, 6},
 };
 
-/// A computed figure without a box of its own; still marked when it is fresh.
+/// A computed figure without a box of its own; still marked when it is fresh. One that outgrows its
+/// room is shown smaller.
 void MakePlainFigure(TextField* field) {
     FitText(field, widestMoney);
     field->setMaximumWidth(field->minimumWidth());
     SetStyleFlag(field, "plain", true);
+    (new EnhancedInput(field))->SetAdjustFontForBigNumbers(true);
 }
 
 }  // namespace

@@ -306,6 +306,18 @@ TEST_F(MainWindow, ANewScreenStandsWhollyInsideTheWorkspace) {
     }
 }
 
+TEST_F(MainWindow, AFigureThatOutgrowsItsRoomOnThePriceScreenIsShownSmaller) {
+    ActiveBarClick("ToolNew");
+    ActiveBarClick("ToolSystemTendos");
+    auto* profit = Form::Find("frmSumModelData")->findChild<QLineEdit*>("txtProfit");
+    const QFont usual = profit->font();
+    profit->setText("$1,115,111,200.00");
+    EXPECT_LT(QFontInfo(profit->font()).pointSize(), QFontInfo(usual).pointSize());
+    EXPECT_LT(QFontMetrics(profit->font()).horizontalAdvance(profit->text()), profit->width());
+    profit->setText("$320.00");
+    EXPECT_EQ(profit->font(), usual);
+}
+
 TEST_F(MainWindow, TheCommandForOneWindowFillsAnyAndTheOneForAllLeavesSomeAlone) {
     ActiveBarClick("ToolNew");
     ShowScreen("frmTip");
