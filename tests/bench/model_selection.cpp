@@ -60,7 +60,8 @@ class LimitTyper : public DialogService {
     std::optional<FontChoice> Font(const std::string&, const FontChoice&) override {
         return std::nullopt;
     }
-    bool Print(const std::string&) override { return false; }
+    bool HasPrinter() override { return false; }
+    bool Print(const PrintDialog&, QPrinter&) override { return false; }
 };
 
 /// The bare engine with the same rows, as a database reads them: no types, in memory.
