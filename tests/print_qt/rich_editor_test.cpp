@@ -4,8 +4,10 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QMimeData>
 #include <QTextDocument>
+#include <QUrl>
 
 #include "platform/print/rich_text.h"
 #include "platform/print/rtf_writer.h"
@@ -142,6 +144,104 @@ TEST(RichEditor, PlainTextFromTheClipboardTakesTheFormatAtTheCaret) {
     RichEditor editor;
     editor.paste();
     EXPECT_EQ(editor.toPlainText(), "plain");
+}
+
+void Paste(RichEditor& editor, QMimeData* data) {
+    QApplication::clipboard()->setMimeData(data);
+    editor.paste();
+}
+
+TEST(RichEditor, APageOfABrowserGivesItsWordsItsStressAndItsPoints) {
+    auto* data = new QMimeData;
+    data->setText("plain words of the page");
+    data->setHtml(
+        "<h1 style='color:red;font-family:Comic Sans;margin:40px'>Our <i>terms</i></h1>"
+        "<p style='background:yellow'>&nbsp;</p><ul><li><b>one</b></li><li>two</li></ul>"
+        "<img src='http://nowhere.invalid/x.png'><table><tr><td>cell</td></tr></table>");
+    RichEditor editor;
+    Paste(editor, data);
+    EXPECT_EQ(editor.toPlainText(), "Our terms\none\ntwo\ncell");
+    const RichText text = ReadRichText(editor.Text(), {});
+    ASSERT_EQ(text.paragraphs.size(), 4U);
+    const RichRun& our = text.paragraphs[0].runs[0];
+    EXPECT_EQ(our.font, (FontSpec{"Arial", 240, true}));
+    EXPECT_EQ(our.color, 0U);
+    EXPECT_EQ(text.paragraphs[0].spaceBefore, 0);
+    EXPECT_EQ(text.paragraphs[0].spaceAfter, 120);
+    EXPECT_EQ(text.paragraphs[0].runs[1].font, (FontSpec{"Arial", 240, true, true}));
+    EXPECT_TRUE(text.paragraphs[1].bullet);
+    EXPECT_TRUE(text.paragraphs[2].bullet);
+    EXPECT_FALSE(text.paragraphs[3].bullet);
+}
+
+TEST(RichEditor, APictureAloneCannotBePasted) {
+    auto* data = new QMimeData;
+    data->setImageData(QImage(4, 4, QImage::Format_RGB32));
+    RichEditor editor;
+    editor.ShowText("words");
+    Paste(editor, data);
+    EXPECT_EQ(editor.toPlainText(), "words");
+    EXPECT_FALSE(editor.IsEdited());
+}
+
+TEST(RichEditor, RichTextOfAWordProcessorComesBeforeItsPage) {
+    auto* data = new QMimeData;
+    data->setText("plain");
+    data->setHtml("<p>page</p>");
+    data->setData("text/rtf", "{\\rtf1 {\\b rich}}");
+    RichEditor editor;
+    Paste(editor, data);
+    EXPECT_EQ(editor.toPlainText(), "rich");
+    EXPECT_TRUE(ReadRichText(editor.Text(), {}).paragraphs[0].runs[0].font.bold);
+}
+
+/// Files dropped on an editor: what it tells of them.
+QStringList Dropped(const QStringList& files) {
+    RichEditor editor;
+    QStringList told;
+    QObject::connect(&editor, &RichEditor::FileDropped, &editor,
+                     [&](const QString& file) { told.append(file); });
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& file : files)
+        urls.append(QUrl::fromLocalFile(file));
+    data.setUrls(urls);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(editor.viewport(), &enter);
+    if (enter.isAccepted()) QApplication::sendEvent(editor.viewport(), &drop);
+    EXPECT_EQ(editor.toPlainText(), "");
+    return told;
+}
+
+TEST(RichEditor, OneTextFileCanBeDroppedAndItsNameIsNotPutIn) {
+    EXPECT_EQ(Dropped({"/x/terms.rtf"}), QStringList{"/x/terms.rtf"});
+    EXPECT_EQ(Dropped({"/x/TERMS.TXT"}), QStringList{"/x/TERMS.TXT"});
+    EXPECT_EQ(Dropped({"/x/job.tdw"}), QStringList());
+    EXPECT_EQ(Dropped({"/x/a.txt", "/x/b.txt"}), QStringList());
+}
+
+TEST(RichEditor, AReplacedTextCanBeBroughtBack) {
+    RichEditor editor;
+    editor.ShowText("before");
+    editor.ReplaceText(Styled);
+    EXPECT_TRUE(editor.IsEdited());
+    EXPECT_EQ(editor.toPlainText(), "Terms\none\ttwo\nthree\nred");
+    const RichText text = ReadRichText(editor.Text(), {});
+    EXPECT_EQ(text.paragraphs[0].align, RichAlign::Center);
+    EXPECT_EQ(text.paragraphs[0].runs[0].font, (FontSpec{"Arial", 320, true}));
+    editor.undo();
+    EXPECT_EQ(editor.toPlainText(), "before");
+}
+
+TEST(RichEditor, AStoredTextIsTheOneThatIsGivenBack) {
+    RichEditor editor;
+    editor.ShowText("before");
+    editor.textCursor().insertText("just ");
+    const std::string text = editor.Text();
+    editor.MarkStored();
+    EXPECT_FALSE(editor.IsEdited());
+    EXPECT_EQ(editor.Text(), text);
 }
 
 }  // namespace

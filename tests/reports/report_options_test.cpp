@@ -75,6 +75,23 @@ TEST_F(ReportOptions, ThereAreFiftyTwoMarksWithNamesOfTheirOwn) {
     EXPECT_EQ(withColumn, 50u);
 }
 
+TEST_F(ReportOptions, EachMarkStandsInItsFrameUnderItsCaption) {
+    const auto of = [](std::string_view control) {
+        for (const ReportOption& option : ReportOptionTable())
+            if (option.control == control) return option;
+        return ReportOption{};
+    };
+    EXPECT_STREQ(of("chkAutoRefresh").caption, "Auto Refresh Print Preview");
+    EXPECT_STREQ(of("chkPrintSalesReport").caption, "Print Sales Report");
+    EXPECT_EQ(of("chkShowDealersCost").frame, OptionFrame::Reports);
+    EXPECT_EQ(of("chkCompComment").frame, OptionFrame::ProjectSummary);
+    EXPECT_EQ(of("chkTotalPrice").frame, OptionFrame::BothModels);
+    EXPECT_EQ(of("chkAirHandler").frame, OptionFrame::Cooling);
+    EXPECT_EQ(of("chkAvailCooling").frame, OptionFrame::Heating);
+    EXPECT_EQ(of("chkGraphs").frame, OptionFrame::General);
+    EXPECT_EQ(of("chkUseCustomBanner").frame, OptionFrame::Pictures);
+}
+
 TEST_F(ReportOptions, WhatWasSavedIsLoaded) {
     ReportOptionValues values = LoadReportOptions(project);
     for (std::int16_t& mark : values.marks)

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QTextList>
 #include <QToolButton>
@@ -33,11 +34,6 @@ constexpr const char* NoFile = "No File";
 const QStringList firstFonts = {"Arial", "Times New Roman", "Courier New"};
 const int fontSizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 28, 36, 48, 72};
 constexpr double LargestSize = 200;
-
-/// The editor has these keys itself.
-bool IsClipboardKey(const QKeySequence& keys) {
-    return keys == QKeySequence::Cut || keys == QKeySequence::Copy || keys == QKeySequence::Paste;
-}
 
 QHBoxLayout* AddLine(QVBoxLayout* lines) {
     auto* line = new QHBoxLayout;
@@ -125,6 +121,7 @@ EditBar::EditBar(RichEditor* editor, QWidget* parent, const QString& whose)
     connect(&timer_, &QTimer::timeout, this, &EditBar::ShowState);
     connect(editor_, &QTextEdit::cursorPositionChanged, this, &EditBar::ShowState);
     connect(editor_, &QTextEdit::currentCharFormatChanged, this, &EditBar::ShowState);
+    editor_->installEventFilter(this);
     connect(editor_, &RichEditor::FileDropped, this,
             [this](const QString& file) { ImportFile(file.toStdString()); });
     timer_.start();
@@ -146,7 +143,7 @@ QToolButton* EditBar::MakeTool(const EditTool& tool) {
     const QKeySequence keys(tool.keys);
     button->setToolTip(keys.isEmpty() ? QString(tool.tip)
                                       : QString("%1 (%2)").arg(tool.tip, keys.toString()));
-    if (!IsClipboardKey(keys)) button->setShortcut(keys);
+    if (!keys.isEmpty()) keys_.insert(keys, button);
     connect(button, &QToolButton::clicked, this, [this, &tool, button] {
         tool.run(*this, *editor_, button->isChecked());
         editor_->setFocus();
@@ -226,8 +223,21 @@ void EditBar::PickColor() {
 }
 
 void EditBar::Insert(std::string_view token) {
-    editor_->textCursor().insertText(
-        QString::fromUtf8(token.data(), static_cast<qsizetype>(token.size())));
+    QTextCursor cursor = editor_->textCursor();
+    cursor.beginEditBlock();  // a step of undo of its own
+    cursor.insertText(QString::fromUtf8(token.data(), static_cast<qsizetype>(token.size())));
+    cursor.endEditBlock();
+}
+
+/// The keys of the tools work in the text only, ahead of any command of the program on them.
+bool EditBar::eventFilter(QObject* watched, QEvent* event) {
+    const bool asks = event->type() == QEvent::ShortcutOverride;
+    if (!asks && event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+    QToolButton* tool = keys_.value(static_cast<QKeyEvent*>(event)->keyCombination());
+    if (!tool || !tool->isEnabled()) return QWidget::eventFilter(watched, event);
+    if (!asks) tool->click();
+    event->accept();
+    return true;
 }
 
 void EditBar::ImportTextFile() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QHash>
+#include <QKeySequence>
 #include <QTimer>
 #include <QWidget>
 #include <span>
@@ -35,6 +37,9 @@ class EditBar : public QWidget {
     void PickColor();
     void Insert(std::string_view token);
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     void AddTools(QHBoxLayout* line, std::span<const EditTool> tools);
     QToolButton* MakeTool(const EditTool& tool);
@@ -46,6 +51,7 @@ class EditBar : public QWidget {
 
     RichEditor* editor_;
     QString whose_;
+    QHash<QKeySequence, QToolButton*> keys_;
     QTimer timer_;
     QComboBox* fonts_ = nullptr;
     QComboBox* sizes_ = nullptr;

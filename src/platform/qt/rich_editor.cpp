@@ -12,7 +12,6 @@
 #include "platform/print/rich_text.h"
 #include "platform/print/rtf_writer.h"
 #include "platform/qt/rich_document.h"
-#include "platform/text/text.h"
 
 namespace tendo {
 namespace {
@@ -20,6 +19,9 @@ namespace {
 /// The names under which programs offer Rich Text Format.
 constexpr std::array RichFormats = {"text/rtf", "application/rtf", "text/richtext",
                                     "application/x-qt-windows-mime;value=\"Rich Text Format\""};
+
+/// The space between paragraphs of a web page, in twips.
+constexpr int LargestSpace = 120;
 
 const RichRun& Base() {
     static const RichRun base = {"", {.family = "Arial", .sizeTwips = 240}, 0};
@@ -69,11 +71,13 @@ RichText SensibleText(const QString& page, const RichRun& format) {
     document.setHtml(page);
     RichText text = RichTextOf(document);
     std::erase_if(text.paragraphs, [](const RichParagraph& paragraph) {
-        return std::all_of(paragraph.runs.begin(), paragraph.runs.end(),
-                           [](const RichRun& run) { return Trimmed(run.text).empty(); });
+        return std::all_of(paragraph.runs.begin(), paragraph.runs.end(), [](const RichRun& run) {
+            return QString::fromStdString(run.text).trimmed().isEmpty();
+        });
     });
     for (RichParagraph& paragraph : text.paragraphs) {
-        paragraph.spaceBefore = paragraph.spaceAfter = paragraph.rightIndent = 0;
+        paragraph.spaceBefore = paragraph.rightIndent = 0;
+        paragraph.spaceAfter = std::clamp(paragraph.spaceAfter, 0, LargestSpace);
         if (!paragraph.bullet) paragraph.leftIndent = paragraph.firstIndent = 0;
         for (RichRun& run : paragraph.runs) {
             run.font.family = format.font.family;

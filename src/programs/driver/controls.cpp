@@ -159,10 +159,16 @@ QWidget* ControlOf(const ControlPath& path) {
     if (path.control.empty()) throw std::runtime_error("a control is to be named as FORM.CONTROL");
     const QString name = QString::fromStdString(path.control);
     const auto* screen = qobject_cast<Form*>(form);
-    // The window around a screen holds its scroll bars.
+    QWidget* found = nullptr;
+    // The window around a screen holds its scroll bars. Of two controls of a name, such as the
+    // tools of two editors, the one in sight is meant.
     for (QWidget* place : {form, screen ? static_cast<QWidget*>(screen->SubWindow()) : nullptr})
-        for (QWidget* widget : place ? place->findChildren<QWidget*>() : QList<QWidget*>())
-            if (widget->objectName().compare(name, Qt::CaseInsensitive) == 0) return widget;
+        for (QWidget* widget : place ? place->findChildren<QWidget*>() : QList<QWidget*>()) {
+            if (widget->objectName().compare(name, Qt::CaseInsensitive) != 0) continue;
+            if (widget->isVisible()) return widget;
+            if (!found) found = widget;
+        }
+    if (found) return found;
     throw std::runtime_error(path.form + " has no control " + path.control);
 }
 

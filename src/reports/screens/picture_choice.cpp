@@ -30,7 +30,8 @@ QPixmap SampleOf(const QString& file, double ratio) {
 
 }  // namespace
 
-PictureChoice::PictureChoice(const Names& names, QWidget* parent) : QWidget(parent) {
+PictureChoice::PictureChoice(const Names& names, QWidget* parent)
+    : QWidget(parent), own_(names.own) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 16);
     column->setSpacing(4);
@@ -77,10 +78,13 @@ void PictureChoice::ShowPicture() {
     const bool exists = QFileInfo(file).isFile();
     const QPixmap picture = exists ? SampleOf(file, devicePixelRatioF()) : QPixmap();
     picture_->setVisible(!file.isEmpty());
-    if (picture.isNull())
-        picture_->setText(exists ? "This picture can't be shown here." : "There is no such file.");
-    else
+    if (!picture.isNull())
         picture_->setPixmap(picture);
+    else if (exists)
+        picture_->setText("This picture can't be shown here.");
+    else
+        picture_->setText(file == own_ ? "The program's own banner is printed."
+                                       : "There is no such file.");
 }
 
 }  // namespace tendo

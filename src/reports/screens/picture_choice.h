@@ -18,6 +18,8 @@ class PictureChoice : public QWidget {
     /// Names of the controls and the field's label.
     struct Names {
         const char *field, *button, *picture, *caption;
+        /// A path that stands for the program's own picture; null without one.
+        const char* own = nullptr;
     };
     PictureChoice(const Names& names, QWidget* parent);
 
@@ -32,6 +34,7 @@ class PictureChoice : public QWidget {
     /// The picture of the path as it stands in the field, or why there is none.
     void ShowPicture();
 
+    QString own_;
     TextField* text_ = nullptr;
     QPushButton* browse_ = nullptr;
     QLabel* picture_ = nullptr;

@@ -86,7 +86,7 @@ const PictureOption pictureOptions[] = {
      {"txtTitlePageLogo", "btnLogoFileBrowse", "imgTitlePageLogo", "Picture of the &title page"}},
     {"chkUseCustomBanner",
      &ReportOptionValues::bannerFile,
-     {"txtBannerFile", "btnBannerFileBrowse", "imgBannerFile", "&Banner picture"}}};
+     {"txtBannerFile", "btnBannerFileBrowse", "imgBannerFile", "&Banner picture", "frmBanner"}}};
 
 QToolButton* MakeLink(const QString& name, const QString& text, const QString& spoken,
                       QWidget* parent) {
