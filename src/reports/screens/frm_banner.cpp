@@ -246,7 +246,7 @@ void frmBanner::btnPreviewBanner_Click() {
     if (custom)
         ShowCaption(lblCustomBanner_,
                     "The report options put a picture of your own in place of this banner. Clear "
-                    "\"Use custom banner\" there, on the page Pictures, to print it.");
+                    "\"Use Custom Page Banner\" there, on the page Pictures, to print it.");
 }
 
 void frmBanner::btnEditOwner_Click() {

@@ -2,31 +2,18 @@
 
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QImageReader>
 #include <QPushButton>
 
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
+#include "platform/qt/picture_box.h"
 
 namespace tendo {
 namespace {
 
-constexpr QSize LargestSample(420, 64);
+constexpr QSize LargestSample(240, 72);
 constexpr const char* PictureFilter =
     "Picture Files|*.bmp;*.wmf;*.emf;*.dib;*.ico;*.gif;*.jpg;*.png;*.svg";
-
-/// At the size of the sample, without reading more of a large picture than that takes.
-QPixmap SampleOf(const QString& file, double ratio) {
-    QImageReader reader(file);
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (size.isValid())
-        reader.setScaledSize(
-            size.scaled(LargestSample * ratio, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-    QPixmap picture = QPixmap::fromImage(reader.read());
-    picture.setDevicePixelRatio(ratio);
-    return picture;
-}
 
 }  // namespace
 
@@ -44,12 +31,15 @@ PictureChoice::PictureChoice(const Names& names, QWidget* parent)
     auto* row = new QHBoxLayout;
     row->addWidget(text_, 1);
     row->addWidget(browse_);
-    picture_ = new QLabel(this);
-    picture_->setObjectName(names.picture);
-    picture_->setProperty("quiet", true);
+    picture_ =
+        new PictureBox(names.picture, QString(names.caption).remove('&'), LargestSample, this);
+    note_ = new QLabel(this);
+    note_->setObjectName(QString(names.picture) + "Note");
+    note_->setProperty("quiet", true);
     column->addWidget(MakeLabel(names.caption, text_, this));
     column->addLayout(row);
     column->addWidget(picture_);
+    column->addWidget(note_);
     connect(text_, &TextField::textChanged, this, &PictureChoice::ShowPicture);
     connect(text_, &TextField::Committed, this,
             [this] { Chosen(text_->text().trimmed().toStdString()); });
@@ -76,15 +66,11 @@ void PictureChoice::Browse() {
 void PictureChoice::ShowPicture() {
     const QString file = text_->text().trimmed();
     const bool exists = QFileInfo(file).isFile();
-    const QPixmap picture = exists ? SampleOf(file, devicePixelRatioF()) : QPixmap();
-    picture_->setVisible(!file.isEmpty());
-    if (!picture.isNull())
-        picture_->setPixmap(picture);
-    else if (exists)
-        picture_->setText("This picture can't be shown here.");
-    else
-        picture_->setText(file == own_ ? "The program's own banner is printed."
-                                       : "There is no such file.");
+    picture_->ShowFile(exists ? file.toStdString() : std::string());
+    picture_->setVisible(exists);
+    note_->setVisible(!exists && !file.isEmpty());
+    note_->setText(file == own_ ? "The program's own banner is printed."
+                                : "There is no such file.");
 }
 
 }  // namespace tendo

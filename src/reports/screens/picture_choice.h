@@ -9,6 +9,7 @@ class QPushButton;
 
 namespace tendo {
 
+class PictureBox;
 class TextField;
 
 /// The file of a picture: its path, a dialog that finds it, and the picture itself below.
@@ -37,7 +38,8 @@ class PictureChoice : public QWidget {
     QString own_;
     TextField* text_ = nullptr;
     QPushButton* browse_ = nullptr;
-    QLabel* picture_ = nullptr;
+    PictureBox* picture_ = nullptr;
+    QLabel* note_ = nullptr;
 };
 
 }  // namespace tendo
