@@ -22,15 +22,18 @@ void DropBehindEnd(std::vector<std::string>& paragraphs) {
 }  // namespace
 
 std::vector<std::string> FootnoteParagraphs(std::string_view description, float finalPrice) {
-    std::string text =
+    const std::string text =
         Replaced(description, FinalPriceToken, FormatNumber(finalPrice, "$###,###,##0.00"));
     std::vector<std::string> paragraphs;
-    for (std::size_t at = text.find(PageBreakToken); at != std::string::npos;
-         at = text.find(PageBreakToken)) {
-        paragraphs.push_back(text.substr(0, at) + "}");
-        text = "{" + text.substr(at + PageBreakToken.size());
+    std::string_view rest = text;
+    std::string opening;
+    for (std::size_t at = rest.find(PageBreakToken); at != std::string_view::npos;
+         at = rest.find(PageBreakToken)) {
+        paragraphs.push_back(opening + std::string(rest.substr(0, at)) + "}");
+        rest.remove_prefix(at + PageBreakToken.size());
+        opening = "{";
     }
-    paragraphs.push_back(std::move(text));
+    paragraphs.push_back(opening + std::string(rest));
     DropBehindEnd(paragraphs);
     return paragraphs;
 }

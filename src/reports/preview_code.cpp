@@ -1,12 +1,8 @@
 #include "reports/preview_code.h"
 
-#include <algorithm>
 #include <cmath>
-#include <span>
 #include <utility>
-#include <vector>
 
-#include "footnotes/footnote_markup.h"
 #include "platform/print/document.h"
 #include "platform/print/page_count.h"
 #include "platform/text/date_text.h"
@@ -58,33 +54,6 @@ void DrawBandIcon(PrintSurface& surface) {
 
 std::string FormatIfModel(float value, std::string_view modelNumber, std::string_view picture) {
     return Trimmed(modelNumber).empty() ? std::string() : FormatNumber(value, picture);
-}
-
-using FootnoteRows = std::span<const FootNoteRow>;
-
-/// The rows that a list's count calls for; an empty list keeps a blank row.
-FootnoteRows FootnotesInUse(FootnoteRows rows, int count) {
-    return rows.first(std::min(rows.size(), static_cast<std::size_t>(std::max(count, 0))));
-}
-
-FootnoteRows AccessoryFootnotes(const ProjectRecords& project) {
-    return FootnotesInUse(project.ProjectAccRptFootNotes, project.NumOfAccRptFootnotes);
-}
-
-void PrintRow(ReportContext& context, const FootNoteRow& row) {
-    const std::vector<std::string> paragraphs =
-        FootnoteParagraphs(row.Description, context.project.SystemTendos.TotalSalePrice);
-    for (const std::string& paragraph : paragraphs) {
-        if (&paragraph != &paragraphs.front()) context.surface.NewPage();
-        context.surface.Paragraph(paragraph);
-    }
-}
-
-void PrintRows(ReportContext& context, FootnoteRows rows) {
-    if (rows.empty()) return;
-    context.surface.AutoRTF(true);
-    for (const FootNoteRow& row : rows)
-        PrintRow(context, row);
 }
 
 }  // namespace
@@ -196,21 +165,6 @@ void PrintSectionHeading(PrintSurface& surface, std::string_view heading) {
     surface.Paragraph(heading);
     SetTextStyle(surface, CurrentReportSettings().Body);
     surface.Paragraph("");
-}
-
-void PrintFootnotes(ReportContext& context) {
-    const ProjectRecords& project = context.project;
-    PrintRows(context, FootnotesInUse(project.ProjectFootNotes, project.gvNumOfFootnotes));
-}
-
-void PrintFirstAccessoryFootnote(ReportContext& context) {
-    const FootnoteRows rows = AccessoryFootnotes(context.project);
-    PrintRows(context, rows.first(std::min<std::size_t>(rows.size(), 1)));
-}
-
-void PrintAccessoryFootnotes(ReportContext& context) {
-    const FootnoteRows rows = AccessoryFootnotes(context.project);
-    PrintRows(context, rows.subspan(std::min<std::size_t>(rows.size(), 1)));
 }
 
 }  // namespace tendo

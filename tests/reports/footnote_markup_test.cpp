@@ -51,6 +51,16 @@ TEST(FootnoteMarkup, TheFinalPriceIsWrittenWithThousandsAndCents) {
     EXPECT_EQ(FootnoteParagraphs("<$$$$>", -12.5F), Paragraphs{"-$12.50"});
 }
 
+TEST(FootnoteMarkup, AHundredThousandMarkersTakeOneWalk) {
+    std::string text;
+    for (int i = 0; i < 100000; ++i)
+        text += "Terms of this offer<PAGE><$$$$>";
+    const Paragraphs paragraphs = FootnoteParagraphs(text, 5);
+    ASSERT_EQ(paragraphs.size(), 100001U);
+    EXPECT_EQ(paragraphs[1], "{$5.00Terms of this offer}");
+    EXPECT_EQ(paragraphs.back(), "{$5.00");
+}
+
 TEST(FootnoteMarkup, APageMarkerBehindAStopBreaksThePageAndTheTextIsGone) {
     EXPECT_EQ(FootnoteParagraphs("{a<STOP>b<PAGE>c}", 0), (Paragraphs{"{a}", "{}"}));
     EXPECT_EQ(FootnoteParagraphs("{a<PAGE>b<STOP>c}", 0), (Paragraphs{"{a}", "{b}"}));
