@@ -78,12 +78,12 @@ TakeoffPage::TakeoffPage(std::vector<MaterialRow>& catalogue, const std::string&
 TakeoffPage* TakeoffPage::On(QWidget* screen, std::vector<MaterialRow>& catalogue,
                              const std::string& caption, bool keepsTitle) {
     auto* content = new QWidget;
+    ScrollContent(screen, content);
     auto* page = new TakeoffPage(catalogue, caption, content, keepsTitle);
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(16, 12, 16, 12);
     column->addWidget(page);
     column->addStretch();
-    ScrollContent(screen, content);
     screen->setMinimumSize(560, 320);
     screen->setWindowTitle(QString::fromStdString(page->Rows().Title()));
     connect(page, &TakeoffPage::TitleChanged, screen, &QWidget::setWindowTitle);

@@ -64,13 +64,15 @@ Form::~Form() {
 
 void Form::MakeSubWindow() {
     auto* window = new QMdiSubWindow;
+    auto* port = new ViewPort(windowTitle());
     window->setAttribute(Qt::WA_DeleteOnClose);
-    window->setWidget(new ViewPort(this));
-    workspace->addSubWindow(window);
-    window->setWindowIcon(QIcon());
+    window->setWidget(port);
     const QSize frame(8, style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
     const QSize room = workspace->viewport()->size();
     window->resize((sizeHint() + frame).boundedTo(room.isEmpty() ? sizeHint() + frame : room));
+    workspace->addSubWindow(window);
+    window->setWindowIcon(QIcon());
+    port->Show(this);
     subWindow_ = window;
     if (!placementSection_.isEmpty()) RestorePlacement(window, placementSection_);
 }

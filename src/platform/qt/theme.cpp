@@ -52,6 +52,8 @@ QFont TotalFont() {
 void SetStyleFlag(QWidget* widget, const char* flag, bool on) {
     if (widget->property(flag).toBool() == on) return;
     widget->setProperty(flag, on);
+    // The first polish, on the way to the screen, reads the flags that stand by then.
+    if (!widget->testAttribute(Qt::WA_WState_Polished)) return;
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);
 }

@@ -11,18 +11,22 @@ constexpr QSize smallestSize(160, 80);
 
 }  // namespace
 
-ViewPort::ViewPort(QWidget* screen) {
+ViewPort::ViewPort(const QString& title) {
     setObjectName("View_Port");
     horizontalScrollBar()->setObjectName("View_Hscr");
     verticalScrollBar()->setObjectName("View_Vscr");
     setFrameShape(NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
+    setWindowTitle(title);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, QWidget* focus) { ShowFocus(focus); });
+}
+
+void ViewPort::Show(QWidget* screen) {
     setWindowTitle(screen->windowTitle());
     setWidget(screen);
     connect(screen, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget*, QWidget* focus) { ShowFocus(focus); });
 }
 
 QSize ViewPort::sizeHint() const {

@@ -10,7 +10,10 @@ namespace tendo {
 class ViewPort : public QScrollArea {
     Q_OBJECT
   public:
-    explicit ViewPort(QWidget* screen);
+    explicit ViewPort(const QString& title);
+    /// Takes the screen in. It comes last, when the port stands in its window and the window in the
+    /// workspace: each of these moves would give all controls of the screen their style anew.
+    void Show(QWidget* screen);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
