@@ -65,6 +65,26 @@ TEST_F(OddCalls, ALineSpacingBeyondSenseIsHeld) {
     EXPECT_EQ(HeightOfALine(), 100);
 }
 
+TEST_F(OddCalls, AnEventWhoseOwnLinesFillThePageDoesNotOpenTheNext) {
+    surface.NewPageEvent = [&] {
+        if (surface.CurrentPage() == 1) return;
+        for (int i = 0; i < 8; ++i)
+            surface.Paragraph("running");
+    };
+    surface.FontSize(100);  // lines of 2000: six a page
+    for (int i = 0; i < 7; ++i)
+        surface.Paragraph("line");
+    EXPECT_EQ(Finish().pages.size(), 2U);
+}
+
+TEST_F(OddCalls, LineSpacingMakesNoLineHigherThanAQuarterPage) {
+    surface.FontSize(50);
+    surface.LineSpacing(400);
+    EXPECT_EQ(HeightOfALine(), 3420);  // 13680 / 4, not 4000
+    surface.FontSize(200);
+    EXPECT_EQ(HeightOfALine(), 4000);  // its own height
+}
+
 TEST_F(OddCalls, APenFarOffThePageIsHeld) {
     for (const int place : {INT_MAX, INT_MIN}) {
         surface.CurrentX(place);

@@ -76,6 +76,7 @@ TEST_F(SamePages, PicturesOfAnyResolutionShowTheSamePage) {
             .scaled(small, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     };
     for (int page = 0; page < static_cast<int>(document.pages.size()); ++page) {
+        // A dot of the small picture is a tenth of an inch; a word makes it some 80 levels darker.
         const QImage first = reduced(page, 96);
         for (const double dpi : {150.0, 300.0, 600.0}) {
             const QImage other = reduced(page, dpi);
@@ -84,7 +85,7 @@ TEST_F(SamePages, PicturesOfAnyResolutionShowTheSamePage) {
                 for (int x = 0; x < small.width(); ++x)
                     farthest = std::max(
                         farthest, std::abs(qGray(first.pixel(x, y)) - qGray(other.pixel(x, y))));
-            EXPECT_LT(farthest, 32) << "page " << page + 1 << " at " << dpi;
+            EXPECT_LT(farthest, 48) << "page " << page + 1 << " at " << dpi;
         }
     }
 }

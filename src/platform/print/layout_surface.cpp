@@ -214,9 +214,9 @@ bool LayoutSurface::LeavesLoneLine(const std::vector<TextLine>& lines, std::size
 /// that they can't be read.
 int LayoutSurface::LineHeight(const TextLine& line, const RichParagraph& paragraph) const {
     const bool display = Number(SurfaceOp::TextAlign) == Centred;
-    const int height = display ? line.height : line.height * LineSpacingPercent() / 100;
+    const int height = display ? line.height : SpacedHeight(line.height, LineSpacingPercent());
     if (paragraph.exactLine > 0) return std::max(paragraph.exactLine, height * 3 / 4);
-    return std::max(height * paragraph.lineSpacing / 100, paragraph.leastLine);
+    return std::max(SpacedHeight(height, paragraph.lineSpacing), paragraph.leastLine);
 }
 
 void LayoutSurface::WriteLine(const TextLine& line, double left, int height) {

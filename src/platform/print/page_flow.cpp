@@ -6,9 +6,15 @@
 
 namespace tendo {
 
+int SpacedHeight(int single, int percent) {
+    constexpr int Most = (page_geometry::Bottom - page_geometry::Top) / 4;
+    return std::min(single * percent / 100, std::max(single, Most));
+}
+
 void PageFlow::Begin() {
     document_ = {};
     heading_ = {};
+    opening_ = false;
     x = page_geometry::Left;
     y = page_geometry::Top;
 }
@@ -29,6 +35,7 @@ void PageFlow::NewPage() {
 }
 
 void PageFlow::BreakPage() {
+    if (opening_) return;
     EnsurePage();
     if (!HeadingStandsAlone()) return NewPage();
     const Heading heading = heading_;  // the new page's header has a bar of its own
@@ -103,7 +110,9 @@ void PageFlow::OpenPage() {
         y = page_geometry::Top;
     }
     document_.pages.emplace_back();
+    opening_ = true;
     if (onOpen) onOpen();
+    opening_ = false;
 }
 
 void PageFlow::AddLine(const TextLine& line, double left, int top) {

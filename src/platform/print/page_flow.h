@@ -8,6 +8,9 @@
 
 namespace tendo {
 
+/// The height of a line at a line spacing. Spacing alone makes no line higher than a quarter page.
+int SpacedHeight(int single, int percent);
+
 /// The pages of a document under work and the pen on them: opens, closes and counts pages.
 class PageFlow {
   public:
@@ -22,7 +25,8 @@ class PageFlow {
     void EnsurePage();
     /// Ends the page, opening an empty first one when there is none, and opens the next.
     void NewPage();
-    /// The same where a page is full: a heading with nothing written beneath it goes along.
+    /// The same where a page is full: a heading with nothing written beneath it goes along. What
+    /// `onOpen` writes breaks no page.
     void BreakPage();
 
     /// Puts a filled box on the page. One across the page with the pen on it is the bar of a
@@ -67,6 +71,7 @@ class PageFlow {
 
     FontTable& fonts_;
     Heading heading_;
+    bool opening_ = false;
     Document document_;
 };
 

@@ -29,7 +29,7 @@ class TableWriter {
     TableWriter(PageFlow& flow, const TableStyle& style, std::string_view format)
         : flow_(flow), style_(style), columns_(ParseTableFormat(format)) {
         const int single = flow.Fonts().Metrics(style.font).lineHeight;
-        lineHeight_ = std::max(single * style.lineSpacing / 100, 1);
+        lineHeight_ = std::max(SpacedHeight(single, style.lineSpacing), 1);
         halfLeading_ = (lineHeight_ - single) / 2;
         NarrowToPage();
     }

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QSvgRenderer>
 #include <cmath>
+#include <optional>
 
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
@@ -30,7 +31,23 @@ QRectF RectOf(const auto& item) {
     return QRectF(QPointF(item.left, item.top), QPointF(item.right, item.bottom)).normalized();
 }
 
+/// Edges of boxes and level lines fall on whole dots of a screen or picture, where smoothing would
+/// make two grey ones of each. Files and printers take no notice.
+class WholeDots {
+  public:
+    explicit WholeDots(QPainter& painter) : painter_(painter) {
+        painter_.setRenderHint(QPainter::Antialiasing, false);
+    }
+    ~WholeDots() { painter_.setRenderHint(QPainter::Antialiasing, true); }
+    WholeDots(const WholeDots&) = delete;
+    WholeDots& operator=(const WholeDots&) = delete;
+
+  private:
+    QPainter& painter_;
+};
+
 void Paint(QPainter& painter, const BoxItem& box) {
+    const WholeDots edges(painter);
     painter.setPen(box.outline ? PenOf(*box.outline, box.penWidth) : QPen(Qt::NoPen));
     painter.setBrush(box.fill ? QBrush(QColor::fromRgb(*box.fill)) : QBrush(Qt::NoBrush));
     painter.drawRect(RectOf(box));
@@ -38,6 +55,8 @@ void Paint(QPainter& painter, const BoxItem& box) {
 
 void Paint(QPainter& painter, const LineItem& line) {
     painter.setPen(PenOf(line.color, line.penWidth));
+    std::optional<WholeDots> edges;
+    if (line.x1 == line.x2 || line.y1 == line.y2) edges.emplace(painter);
     painter.drawLine(QPointF(line.x1, line.y1), QPointF(line.x2, line.y2));
 }
 
