@@ -1,18 +1,16 @@
 #include "app/screens/frm_splash.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
-#include <QSvgRenderer>
 #include <QVBoxLayout>
-#include <QtEndian>
 #include <utility>
 
 #include "app/screens/pointer.h"
 #include "platform/qt/icons.h"
-#include "platform/qt/painter_metafile.h"
+#include "platform/qt/painter_picture.h"
+#include "platform/qt/picture_store.h"
 #include "platform/qt/theme.h"
 #include "project/program_state.h"
 
@@ -20,7 +18,6 @@ namespace tendo {
 namespace {
 
 constexpr int logoWait = 1000;  // milliseconds
-constexpr qint64 largestMetafile = 1 << 20;
 constexpr QSize designSize(440, 260);
 constexpr QSize largestLogo(420, 240);
 // Logos are drawn for paper, so the screen is white in both sets of colours.
@@ -28,50 +25,29 @@ const QColor paper("#ffffff");
 constexpr const char* paperText = "color: #1c2530";
 constexpr const char* paperQuietText = "color: #5c6a79";
 
-/// A Windows metafile in the proportions that its header tells; null when the file is none.
-QPixmap MetafilePicture(const QString& fileName) {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    const QByteArray bytes = file.read(largestMetafile);
-    const auto corner = [&](int place) {
-        return place + 2 <= bytes.size() ? qFromLittleEndian<qint16>(bytes.constData() + place) : 0;
-    };
-    const QSize size(std::abs(corner(10) - corner(6)), std::abs(corner(12) - corner(8)));
-    if (size.isEmpty()) return {};
-    QPixmap picture(size.scaled(largestLogo, Qt::KeepAspectRatio));
-    picture.fill(paper);
-    QPainter painter(&picture);
-    const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    return PaintMetafile(painter, content, picture.rect()) ? picture : QPixmap();
-}
-
-/// A drawing at the size it is shown at; null when the file is none. Drawn here: a pixmap that
-/// reads its file would first have every plug-in for pictures loaded.
-QPixmap DrawingPicture(const QString& fileName) {
-    if (!QFile::exists(fileName)) return {};
-    QSvgRenderer drawing(fileName);
-    QSize size = drawing.defaultSize();
-    if (!drawing.isValid() || size.isEmpty()) return {};
-    if (size != size.boundedTo(largestLogo)) size.scale(largestLogo, Qt::KeepAspectRatio);
-    QPixmap picture(size);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    drawing.render(&painter);
-    return picture;
+/// The picture of a file, no larger than there is room for; null when there is none to be shown.
+/// A metafile has no size of its own and fills the room.
+QPixmap PictureOf(const std::string& file) {
+    const auto picture = LoadPicture(file);
+    if (!picture || !picture->problem.isEmpty() || picture->size.isEmpty()) return {};
+    QSize size = picture->size.toSize();
+    if (!picture->metafile.empty() || size != size.boundedTo(largestLogo))
+        size.scale(largestLogo, Qt::KeepAspectRatio);
+    QPixmap shown(size);
+    shown.fill(paper);
+    QPainter painter(&shown);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintPicture(painter, file, shown.rect(), 1);
+    return shown;
 }
 
 /// The logo from the program directory: as it is named, or the drawing that comes with the program.
 QPixmap LogoPicture() {
-    const QString named = QString::fromStdString(State().ProgramDirectory + State().LogoFileName);
-    const QString stem = named.section('.', 0, -2);
-    QPixmap picture = MetafilePicture(named);
-    if (picture.isNull() && QFile::exists(named)) picture = QPixmap(named);
-    if (picture.isNull()) picture = DrawingPicture(stem + ".svg");
-    if (picture.isNull()) picture = QPixmap(stem + ".png");
-    const QSize size = picture.size();
-    const bool large = size.width() > largestLogo.width() || size.height() > largestLogo.height();
-    return large ? picture.scaled(largestLogo, Qt::KeepAspectRatio, Qt::SmoothTransformation)
-                 : picture;
+    const std::string named = State().ProgramDirectory + State().LogoFileName;
+    const std::string stem = named.substr(0, named.rfind('.'));
+    for (const std::string& file : {named, stem + ".svg", stem + ".png"})
+        if (QPixmap picture = PictureOf(file); !picture.isNull()) return picture;
+    return {};
 }
 
 QLabel* AddLine(QVBoxLayout* column, const char* name, const QString& text, const char* style) {

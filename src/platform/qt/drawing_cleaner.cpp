@@ -3,6 +3,8 @@
 #include <QSet>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
+#include <array>
+#include <utility>
 #include "platform/qt/drawing_parts.h"
 
 namespace tendo {
@@ -17,16 +19,20 @@ bool IsLink(QStringView name) {
     return name == QLatin1String("href") || name.endsWith(QLatin1String(":href"));
 }
 
+bool IsQualified(QStringView name) {
+    return name.count(QLatin1Char(':')) <= 1;
+}
+
 QStringView LocalName(QStringView name) {
     return name.mid(name.lastIndexOf(QLatin1Char(':')) + 1);
 }
 
-bool IsLeftOut(QStringView element) {
+bool IsLeftOut(QStringView kind) {
     static const QSet<QString> names = {
         QStringLiteral("script"), QStringLiteral("foreignObject"), QStringLiteral("audio"),
         QStringLiteral("video"),  QStringLiteral("iframe"),
     };
-    return names.contains(LocalName(element).toString());
+    return names.contains(kind.toString());
 }
 
 class Cleaner {
@@ -56,14 +62,23 @@ class Cleaner {
   private:
     void Start() {
         const QString name = reader_.qualifiedName().toString();
-        if (IsLeftOut(name) || name.count(QLatin1Char(':')) > 1)
+        const QXmlStreamAttributes attributes = reader_.attributes();
+        const QString link = Link(attributes);
+        const QStringView kind = LocalName(name);
+        const bool emptyImage = kind == QLatin1String("image") && link.isEmpty();
+        if (IsLeftOut(kind) || emptyImage || !IsQualified(name))
             return reader_.skipCurrentElement();
-        ++deep_;
         writer_.writeStartElement(name);
-        QString target;
-        for (const QXmlStreamAttribute& attribute : reader_.attributes())
-            Write(name, attribute, target);
-        parts_.Open(reader_.attributes().value(QLatin1String("id")).toString(), target);
+        if (deep_++ == 0) WriteNamespaces(attributes);
+        for (const QXmlStreamAttribute& attribute : attributes)
+            if (!IsLink(attribute.qualifiedName()) && IsQualified(attribute.qualifiedName()))
+                writer_.writeAttribute(attribute.qualifiedName().toString(),
+                                       attribute.value().toString());
+        // The older name of links is the one that is understood.
+        if (!link.isEmpty()) writer_.writeAttribute(QStringLiteral("xlink:href"), link);
+        const bool repeats = kind == QLatin1String("use");
+        parts_.Open(attributes.value(QLatin1String("id")).toString(),
+                    repeats ? link.mid(1) : QString());
     }
 
     void End() {
@@ -72,19 +87,26 @@ class Cleaner {
         writer_.writeEndElement();
     }
 
-    void Write(const QString& element, const QXmlStreamAttribute& attribute, QString& target) {
-        const QString name = attribute.qualifiedName().toString();
-        if (name.count(QLatin1Char(':')) > 1) return;
-        QString value = attribute.value().toString();
-        if (IsLink(name)) {
-            if (value.startsWith(QLatin1Char('#'))) {
-                if (LocalName(element) == QLatin1String("use")) target = value.mid(1);
-            } else if (!value.startsWith(QLatin1String("data:image/"))) {
-                value = Embedded(value);
-                if (value.isEmpty()) return;
-            }
+    /// Converters leave them out.
+    void WriteNamespaces(const QXmlStreamAttributes& attributes) {
+        static constexpr std::array Namespaces = {
+            std::pair("xmlns", "http://www.w3.org/2000/svg"),
+            std::pair("xmlns:xlink", "http://www.w3.org/1999/xlink")};
+        for (const auto& [name, address] : Namespaces)
+            if (!attributes.hasAttribute(QLatin1String(name)))
+                writer_.writeAttribute(QLatin1String(name), QLatin1String(address));
+    }
+
+    /// The element's link to a part of the drawing or to a picture within it; empty for any other.
+    QString Link(const QXmlStreamAttributes& attributes) const {
+        for (const QXmlStreamAttribute& attribute : attributes) {
+            if (!IsLink(attribute.qualifiedName())) continue;
+            const QString value = attribute.value().toString();
+            const bool within = value.startsWith(QLatin1Char('#')) ||
+                                value.startsWith(QLatin1String("data:image/"));
+            return within ? value : Embedded(value);
         }
-        writer_.writeAttribute(name, value);
+        return {};
     }
 
     QString Embedded(const QString& file) const {

@@ -21,7 +21,6 @@ namespace {
 constexpr std::uint64_t LargestFile = 64 << 20, LargestDrawing = 16 << 20;
 constexpr std::size_t MostKept = 6;
 constexpr qsizetype MostKeptBytes = 64 << 20;
-int loads = 0;
 
 /// A picture as it was read from a file in a certain state.
 struct KeptPicture {
@@ -56,6 +55,16 @@ void TakeDrawing(LoadedPicture& picture, const QByteArray& clean) {
     picture.drawing = std::move(drawing);
 }
 
+/// The header that a metafile without one lacks; its window's records tell the rest.
+std::string PlaceableHeader(PictureSize size) {
+    std::string header("\xD7\xCD\xC6\x9A");
+    for (const int word : {0, 0, 0, size.width, size.height, 0, 0, 0, 0}) {
+        header += static_cast<char>(word & 0xFF);
+        header += static_cast<char>(word >> 8 & 0xFF);
+    }
+    return header;
+}
+
 void TakePixels(LoadedPicture& picture, std::string_view bytes) {
     if (HasTooManyPixels(bytes)) {
         picture.problem = QStringLiteral("is too large: %L1 by %L2 points")
@@ -82,6 +91,8 @@ void TakeBytes(LoadedPicture& picture, std::string_view bytes) {
         TakeDrawing(picture, CleanDrawing(bytes));
     } else if (kind == PictureKind::PlaceableMetafile) {
         picture.metafile = bytes;
+    } else if (kind == PictureKind::Metafile && !picture.size.isEmpty()) {
+        picture.metafile = PlaceableHeader(size) + std::string(bytes);
     } else if (IsDrawn(kind)) {
         const ConvertedMetafile converted = ConvertMetafile(bytes);
         picture.problem = converted.problem;
@@ -92,7 +103,6 @@ void TakeBytes(LoadedPicture& picture, std::string_view bytes) {
 }
 
 std::shared_ptr<const LoadedPicture> ReadPicture(const QFileInfo& file) {
-    ++loads;
     auto picture = std::make_shared<LoadedPicture>();
     picture->name = file.fileName();
     try {
@@ -142,10 +152,6 @@ std::shared_ptr<const LoadedPicture> LoadPicture(const std::string& path) {
     kept.push_back(std::move(wanted));
     ForgetOldest();
     return kept.back().picture;
-}
-
-int PictureLoads() {
-    return loads;
 }
 
 }  // namespace tendo

@@ -24,7 +24,4 @@ struct LoadedPicture {
 /// at hand until it changes on disk or newer pictures need the room.
 std::shared_ptr<const LoadedPicture> LoadPicture(const std::string& path);
 
-/// How many times a file was read and decoded since the program began.
-int PictureLoads();
-
 }  // namespace tendo
