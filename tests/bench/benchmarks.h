@@ -12,6 +12,14 @@ bool PriceCommit();
 /// `share`: the folder of the built sample data.
 bool ReportPdf(const std::string& folder, const std::string& share);
 
+/// A package of about 50 pages with 1,000 materials to PDF, by a program of its own, beside groff
+/// and LibreOffice; and its memory.
+bool ReportPackage(const std::string& folder, const std::string& programs);
+
+/// From the preview command to the first painted page of the sample job, and from an option's
+/// change to its new paint. Tells, and has no limits.
+bool PreviewTime(const std::string& folder, const std::string& programs);
+
 /// A takeoff of 1,000 lines in a price book of 30,000 materials: its merge, and the book's load.
 bool TakeoffMerge(const std::string& folder);
 /// The same takeoff on its page: turning it, and its four views. Needs the QApplication.

@@ -27,6 +27,8 @@ int main(int argc, char** argv) {
     const std::string programs = std::filesystem::path(argv[0]).parent_path().string();
     const Measurement measurements[] = {
         {"start", false, [&] { return StartTime(folder, programs); }},
+        {"preview", false, [&] { return PreviewTime(folder, programs); }},
+        {"package", false, [&] { return ReportPackage(folder, programs); }},
         {"read", false, [&] { return ModelDatabaseRead(folder); }},
         {"save", false, [&] { return ProjectSave(folder); }},
         {"price", false, PriceCommit},
