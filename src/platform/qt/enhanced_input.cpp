@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QStyle>
+#include <QStyleOption>
 #include <QTimer>
 #include <QWheelEvent>
 #include <algorithm>
@@ -405,9 +407,28 @@ void EnhancedInput::SetAdjustFontForBigNumbers(bool adjusts) {
     FitFont();
 }
 
+/// What borders and padding leave of the owner's width.
+int EnhancedInput::RoomForText() const {
+    constexpr int inset = 4;  // a line of text keeps two pixels on both sides
+    if (const auto* combo = qobject_cast<QComboBox*>(owner_); combo && !combo->isEditable()) {
+        QStyleOptionComboBox option;
+        option.initFrom(combo);
+        const auto part = QStyle::SC_ComboBoxEditField;
+        return combo->style()->subControlRect(QStyle::CC_ComboBox, &option, part, combo).width() -
+               inset;
+    }
+    const QLineEdit* line = Line();
+    if (!line) return owner_->contentsRect().width();
+    QStyleOptionFrame option;
+    option.initFrom(line);
+    if (line->hasFrame())
+        option.lineWidth = line->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, line);
+    return line->style()->subElementRect(QStyle::SE_LineEditContents, &option, line).width() -
+           inset;
+}
+
 void EnhancedInput::FitFont() const {
-    constexpr int frame = 20;  // border and padding on both sides
-    const int room = owner_->width() - (qobject_cast<QLabel*>(owner_) ? 0 : frame);
+    const int room = RoomForText();
     const QString text = Text();
     const auto fontOf = [this](const FittingFont& fitting) {
         QFont font = designFont_;

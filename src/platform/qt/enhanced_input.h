@@ -110,6 +110,7 @@ class EnhancedInput : public QObject {
     void WatchButton(QAbstractButton* button, void (EnhancedInput::*click)());
     void ButtonEvent(const QObject* button, QEvent::Type type);
     void ShowButtonPicture(bool down) const;
+    int RoomForText() const;
     void FitFont() const;
 
     QWidget* owner_;
