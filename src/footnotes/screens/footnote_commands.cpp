@@ -55,8 +55,10 @@ void FillFootnoteList(QListWidget* list, const std::vector<std::string>& names) 
     const QSignalBlocker quiet(list);
     while (list->count() > rows)
         delete list->takeItem(list->count() - 1);
-    while (list->count() < rows)
-        list->addItem(QString());
+    while (list->count() < rows) {
+        auto* item = new QListWidgetItem(list);
+        item->setFlags(item->flags() & ~Qt::ItemIsDropEnabled);  // between rows, not on one
+    }
     for (int i = 0; i < rows; ++i)
         list->item(i)->setText(QString::fromStdString(names[static_cast<std::size_t>(i)]));
     list->setCurrentRow(std::min(row, rows - 1));

@@ -105,7 +105,7 @@ void ProjectFootnoteList::keyPressEvent(QKeyEvent* event) {
 void ProjectFootnoteList::dropEvent(QDropEvent* event) {
     const auto from = Row();
     event->ignore();
-    if (event->source() != this || !from) return;
+    if (!from) return;
     const QModelIndex over = indexAt(event->position().toPoint());
     std::size_t to = over.isValid() ? static_cast<std::size_t>(over.row()) : List().Size() - 1;
     const DropIndicatorPosition place = dropIndicatorPosition();

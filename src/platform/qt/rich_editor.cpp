@@ -32,10 +32,12 @@ const RichRun& Base() {
 RichText LinesAsParagraphs(const RichText& text) {
     RichText lines;
     for (const RichRun& run : text.paragraphs.front().runs) {
+        RichRun format = run;
+        format.text.clear();  // no copy of a long text for each of its lines
         std::size_t at = 0;
         for (;;) {
             const std::size_t end = run.text.find('\n', at);
-            RichRun line = run;
+            RichRun line = format;
             line.text = run.text.substr(at, end - at);
             lines.paragraphs.emplace_back().runs.push_back(std::move(line));
             if (end == std::string::npos) break;
@@ -76,14 +78,19 @@ RichText SensibleText(const QString& page, const RichRun& format) {
         });
     });
     for (RichParagraph& paragraph : text.paragraphs) {
-        paragraph.spaceBefore = paragraph.rightIndent = 0;
-        paragraph.spaceAfter = std::clamp(paragraph.spaceAfter, 0, LargestSpace);
-        if (!paragraph.bullet) paragraph.leftIndent = paragraph.firstIndent = 0;
-        for (RichRun& run : paragraph.runs) {
+        RichParagraph plain;
+        plain.align = paragraph.align;
+        plain.bullet = paragraph.bullet;
+        if (plain.bullet) plain.leftIndent = paragraph.leftIndent;
+        if (plain.bullet) plain.firstIndent = paragraph.firstIndent;
+        plain.spaceAfter = std::clamp(paragraph.spaceAfter, 0, LargestSpace);
+        plain.runs = std::move(paragraph.runs);
+        for (RichRun& run : plain.runs) {
             run.font.family = format.font.family;
             run.font.sizeTwips = format.font.sizeTwips;
             run.color = format.color;
         }
+        paragraph = std::move(plain);
     }
     return text;
 }

@@ -25,7 +25,7 @@ class frmReportOptions : public Form {
     Q_OBJECT
   public:
     frmReportOptions();
-    QSize sizeHint() const override { return {1240, 780}; }
+    QSize sizeHint() const override { return {1290, 780}; }
 
   protected:
     void CommitEdits() override;
