@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/text/runtime_error.h"
+#include "platform/text/text.h"
 #include "reports/banner.h"
 #include "reports/sales_report.h"
 #include "reports/title_report.h"
@@ -22,8 +23,9 @@ void Run(ReportContext& context, const char* name, ReportProcedure report) {
     try {
         report(context);
     } catch (const RuntimeError& error) {
-        context.Problems.push_back("The " + std::string(name) + " is not complete. " +
-                                   error.Description());
+        std::string text = "The " + std::string(name) + " is not complete. " + error.Description();
+        if (!EndsWith(text, ".")) text += ". What follows is left out.";
+        context.Problems.push_back(text);
     }
 }
 

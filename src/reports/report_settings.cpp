@@ -7,6 +7,7 @@
 #include "platform/files/ini_file_handler.h"
 #include "platform/files/paths.h"
 #include "platform/files/profile.h"
+#include "platform/text/text.h"
 #include "project/program_state.h"
 
 namespace tendo {
@@ -26,6 +27,7 @@ constexpr std::array OwnerKeys = {OwnerKey{"OwnerName", &OwnerRecord::OwnerName}
                                   OwnerKey{"OwnerState", &OwnerRecord::OwnerState},
                                   OwnerKey{"OwnerPhone", &OwnerRecord::OwnerPhone}};
 
+/// A name or size that a profile was left without is the standard one.
 ReportTextStyle ReadStyle(const std::string& name, const ReportTextStyle& standard) {
     const INIFileHandler& ini = Ini();
     ReportTextStyle style;
@@ -36,6 +38,8 @@ ReportTextStyle ReadStyle(const std::string& name, const ReportTextStyle& standa
     style.fontBold = ini.MyGetAppProfileBoolean(Options, name + "FontBold", standard.fontBold);
     style.fontItalic =
         ini.MyGetAppProfileBoolean(Options, name + "FontItalic", standard.fontItalic);
+    if (Trimmed(style.fontName).empty()) style.fontName = standard.fontName;
+    if (style.fontSize <= 0) style.fontSize = standard.fontSize;
     return style;
 }
 

@@ -1,5 +1,6 @@
 #include "reports/sales_rows.h"
 
+#include <cmath>
 #include <type_traits>
 
 #include "platform/text/number_text.h"
@@ -119,6 +120,20 @@ constexpr std::array<SelectedField, SideCount> SelectedFields = {{
     {"water heating", &SystemInfoRecord::WHSystemSelected},
 }};
 
+constexpr const char* LeftOut =
+    ", so the comparison table and the footnotes behind it are left out. ";
+
+/// A damaged file can hold what is no number.
+[[noreturn]] void StopAtFigure(const SalesRow& row, int system) {
+    std::string label(row.label);
+    while (label.back() == ':' || label.back() == '#')
+        label.pop_back();
+    throw RuntimeError(error_number::Overflow, "\"" + label + "\" of system " +
+                                                   std::to_string(system + 1) + " is no number" +
+                                                   LeftOut +
+                                                   "Enter it again, then write the report again.");
+}
+
 }  // namespace
 
 std::span<const SalesRow> SalesRows() {
@@ -141,9 +156,9 @@ int SelectedSystem(const ProjectRecords& project, Side side, int system) {
         error_number::SubscriptOutOfRange,
         "The " + std::string(field.name) + " operating cost of system " +
             std::to_string(system + 1) + " is to come from system " + std::to_string(selected + 1) +
-            ", which does not exist, so the comparison table and the footnotes behind "
-            "it are left out. Switch off the operating cost of the selected system "
-            "in the report options, then write the report again.");
+            ", which does not exist" + LeftOut +
+            "Switch off the operating cost of the selected system in the report options, then "
+            "write the report again.");
 }
 
 std::string CellText(const ProjectRecords& project, const SalesRow& row, Side side, int system,
@@ -151,6 +166,7 @@ std::string CellText(const ProjectRecords& project, const SalesRow& row, Side si
     const CellSource source = row.source[static_cast<std::size_t>(side)];
     if (!source) return {};
     const RawCell cell = source(project, valueSystem);
+    if (!std::isfinite(cell.number)) StopAtFigure(row, valueSystem);
     switch (row.format) {
         case RowFormat::Text:
             return cell.text;

@@ -49,7 +49,7 @@ std::string ModelType(const ProjectRecords& project, Side side, int system);
 int SelectedSystem(const ProjectRecords& project, Side side, int system);
 
 /// The text of a row's cell. `valueSystem` gives the value, `system` the model that lets it be
-/// shown.
+/// shown. Throws RuntimeError 6, which tells the user why, when the value is no number.
 std::string CellText(const ProjectRecords& project, const SalesRow& row, Side side, int system,
                      int valueSystem);
 

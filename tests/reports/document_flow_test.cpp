@@ -152,7 +152,8 @@ TEST_F(DocumentFlow, AReportThatFailsIsToldOfAndTheNextFollows) {
     GenerateReports(context, failing);
     EXPECT_EQ(Flow(), "(TNCNHA)");
     EXPECT_THAT(context.Problems,
-                testing::ElementsAre("The Detailed Cost Report is not complete. Division by zero"));
+                testing::ElementsAre("The Detailed Cost Report is not complete. Division by zero. "
+                                     "What follows is left out."));
 }
 
 TEST_F(DocumentFlow, TitleAndSalesReportOfTwoSystemsWithFootnotesAreWrittenAsTold) {

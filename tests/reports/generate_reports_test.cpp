@@ -266,6 +266,15 @@ TEST_F(Settings, AreReadFromTheProfile) {
     EXPECT_TRUE(settings.SecondaryHeader.fontItalic);
 }
 
+TEST_F(Settings, AFontWithoutANameOrASizeIsTheStandardOne) {
+    for (const char* size : {"", "0", "-3", "large"}) {
+        Option("BodyFont", " ");
+        Option("BodyFontSize", size);
+        EXPECT_EQ(CurrentReportSettings().Body.fontName, "Arial");
+        EXPECT_EQ(CurrentReportSettings().Body.fontSize, 10) << size;
+    }
+}
+
 TEST_F(Settings, AnOptionIsOnWhenItIsOne) {
     EXPECT_TRUE(ReportOptionIsOn("chkHeight"));
     Option("chkHeight", "0");

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <limits>
+
 #include "report_fixture.h"
 #include "reports/generate_reports.h"
 
@@ -133,6 +135,74 @@ TEST_F(SalesReport, BarsAndSemicolonsInNamesSplitTheSummaryAndHarmNothing) {
     EXPECT_THAT(text, testing::HasSubstr("Client: Marlow  Sons\n"));
     EXPECT_THAT(text, testing::HasSubstr("Ltd Company Rep: Robin Vance"));
     EXPECT_THAT(text, testing::HasSubstr("Phone: (507) 555-0142"));
+}
+
+struct CommentCase {
+    const char *client, *company;
+    std::int16_t clientMark, companyMark;
+    const char* row;  // "" for none
+};
+
+TEST_F(SalesReport, TheCommentRowStandsForAnyCommentAndShowsTheMarkedOnes) {
+    constexpr CommentCase cases[] = {
+        {"", "", 1, 1, ""},
+        {"c", "", 1, 1, "Comment:|c||;"},
+        {"c", "", 1, 0, "Comment:|c||;"},
+        {"c", "", 0, 1, "|||;"},
+        {"c", "", 2, 1, "|||;"},  // only a one is a mark
+        {"", "o", 1, 1, "||Comment:|o;"},
+        {"", "o", 0, 1, "||Comment:|o;"},
+        {"", "o", 1, 0, "|||;"},
+        {"c", "o", 1, 1, "Comment:|c|Comment:|o;"},
+        {"c", "o", 1, 0, "Comment:|c||;"},
+        {"c", "o", 0, 1, "||Comment:|o;"},
+        {"c", "o", 0, 0, "|||;"},
+    };
+    const std::string without = Summary();
+    for (const CommentCase& entry : cases) {
+        project.GPDClientFormat.Comment = entry.client;
+        project.GPDCompanyFormat.Comment = entry.company;
+        project.GPDClientFormat.ClientPrintComment = entry.clientMark;
+        project.GPDCompanyFormat.CompanyPrintComment = entry.companyMark;
+        EXPECT_EQ(Summary(), without + entry.row) << entry.client << entry.company;
+    }
+}
+
+TEST_F(SalesReport, AbsurdFiguresAndTextsHarmNothing) {
+    for (int system = 0; system < 5; ++system)
+        FillSystem(project, system);
+    project.WHModelData[4].ModelDesc = "a\nb\tc\r\n;|{\\rtf1}\xFF";
+    project.ProjectFootNotes = {{"Terms", "<$$$$>"}};
+    project.gvNumOfFootnotes = 1;
+    for (const float figure : {-std::numeric_limits<float>::max(), 1e-40F}) {
+        project.CLGModelData[0].Cap = project.HTGModelData[1].CFMRate = figure;
+        project.ModelInfo[2].CLGSalePrice = project.SystemInfo[3].WHProposedOpCost = figure;
+        project.SystemTendos.TotalSalePrice = figure;
+        EXPECT_TRUE(PreviewSalesOnly(context));
+        EXPECT_TRUE(context.Problems.empty());
+        EXPECT_THAT(ValuesOf("Paragraph"), testing::Contains("Footnotes"));
+        EXPECT_GE(layout.Result().pages.size(), 2U);
+    }
+}
+
+TEST_F(SalesReport, AFigureThatIsNoNumberStopsTheReportAndIsNamed) {
+    FillSystem(project, 0);
+    project.HTGModelData[0].Weight = std::numeric_limits<float>::infinity();
+    EXPECT_TRUE(PreviewSalesOnly(context));
+    EXPECT_EQ(context.Problems,
+              std::vector<std::string>{
+                  "The Sales Report is not complete. \"Weight\" of system 1 is no number, so the "
+                  "comparison table and the footnotes behind it are left out. Enter it again, then "
+                  "write the report again."});
+    Option("chkWeight", "0");
+    context.Problems.clear();
+    project.SystemTendos.TotalSalePrice = std::numeric_limits<float>::quiet_NaN();
+    project.ProjectFootNotes = {{"Terms", "<$$$$>"}};
+    project.gvNumOfFootnotes = 1;
+    EXPECT_TRUE(PreviewSalesOnly(context));
+    EXPECT_EQ(context.Problems,
+              std::vector<std::string>{
+                  "The Sales Report is not complete. Overflow. What follows is left out."});
 }
 
 }  // namespace
