@@ -15,6 +15,7 @@
 #include "app/screens/screen_table.h"
 #include "app/screens/shell.h"
 #include "platform/files/ini_file_handler.h"
+#include "platform/qt/apply_theme.h"
 #include "running_program.h"
 
 namespace tendo {
@@ -304,6 +305,35 @@ TEST_F(MainWindow, ANewScreenStandsWhollyInsideTheWorkspace) {
         EXPECT_LE(window->geometry().right(), room.right()) << name;
         EXPECT_LE(window->geometry().bottom(), room.bottom()) << name;
     }
+}
+
+/// Counts how often fields of one name are given their style anew.
+class StyleCounter : public QObject {
+  public:
+    explicit StyleCounter(QString field) : field_(std::move(field)) {
+        qApp->installEventFilter(this);
+    }
+    int Count() const { return count_; }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::StyleChange && watched->objectName() == field_) ++count_;
+        return false;
+    }
+
+  private:
+    QString field_;
+    int count_ = 0;
+};
+
+TEST_F(MainWindow, TheWindowOfANewScreenGivesItsControlsTheirStyleOnlyOnce) {
+    ApplyTheme(*qApp, false);  // a sheet of styles is what makes it dear
+    ActiveBarClick("ToolNew");
+    const StyleCounter counter("txtTotalGrossMargin");
+    ActiveBarClick("ToolSystemTendos");
+    // The move into the window; before it the screen stands alone.
+    EXPECT_LE(counter.Count(), 2);
+    EXPECT_GE(counter.Count(), 1);
 }
 
 TEST_F(MainWindow, AFigureThatOutgrowsItsRoomOnThePriceScreenIsShownSmaller) {
