@@ -224,6 +224,45 @@ TEST_F(ProposalFormats, AFormatKeepsAllOptionsAndFootnotes) {
     EXPECT_EQ(list.rows[1].Description, "{\\rtf1 b}");
 }
 
+/// Names and types of a table's columns: T text, I integer, L long, S single, M memo.
+std::string ColumnsOf(const char* table) {
+    Database formats = Database::OpenDatabase(ProposalFormatFile());
+    std::string all;
+    for (const jet::Column& column : formats.Table(table).columns) {
+        using enum jet::ColumnType;
+        const char type = column.type == Text      ? 'T'
+                          : column.type == Integer ? 'I'
+                          : column.type == Long    ? 'L'
+                          : column.type == Single  ? 'S'
+                          : column.type == Memo    ? 'M'
+                                                   : '?';
+        all += column.name + " " + type + "\n";
+    }
+    return all;
+}
+
+TEST_F(ProposalFormats, TheColumnsStandInTheirOrderAndTypes) {
+    EXPECT_EQ(ColumnsOf("ProposalFormats"),
+              "FormatName T\nClientFaxNumber I\nClientComment I\nCompanyRepresentative I\n"
+              "CompanyID I\nCompanyFaxNumber I\nCompanyComment I\nCompressWarranty I\n"
+              "CoilWarranty I\nHeatExchWarranty I\nMicroProcWarranty I\nPartsWarranty I\n"
+              "LaborWarranty I\nCapacity I\nEfficiency I\nCondRemoval I\nOpCostforSystem I\n"
+              "ProposedOpCost I\nOpCostSavings I\nHeight I\nLength I\nWidth I\nWeight I\n"
+              "ListPrice I\nTotalPrice I\nSoundLevel I\nCompStartKit I\nCrankcaseHeater I\n"
+              "PressureSwitch I\nCondSupport I\nElectrical I\nRefrigTubing I\nAirHandler I\n"
+              "AvailCooling I\nConfiguration I\nHeatExchType I\nIgnitionType I\nExhaustVent I\n"
+              "CFMRate S\nMainHeaderTextColor L\nMainHeaderBackColor L\n"
+              "SecondaryHeaderTextColor L\nSecondaryHeaderBackColor L\nBodyTextColor L\n"
+              "BodyBackColor L\nColorGraphs I\nPrintPageNumbers I\nPrintDate I\n"
+              "StartingPageNo I\nLineSpacing I\nPrintLogoOnTitleReport I\nLogoFilename T\n"
+              "UseCustomPageBanner I\nBannerFilename T\nPrintTitleReport I\nPrintSalesReport I\n"
+              "PrintOptionalAccessoriesReport I\nPrintDetailedCostReport I\nShowDealersCost I\n"
+              "PrintInstallersReport I\n"
+              // What saving and loading use beside these.
+              "SelectedOpCost I\nPrintGraphs I\n");
+    EXPECT_EQ(ColumnsOf("Formats-FootNotes"), "FormatName T\nFootNoteName T\nDescription M\n");
+}
+
 std::int16_t StoredColumn(const char* column) {
     Database formats = Database::OpenDatabase(ProposalFormatFile());
     return formats.OpenRecordset("ProposalFormats").Integer(column);
