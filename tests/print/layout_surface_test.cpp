@@ -184,7 +184,7 @@ TEST_F(Layout, AHeadingWithoutRoomForItsSectionTakesItsBarToTheNextPage) {
     EXPECT_EQ(bar.top, 920 - 70);  // as far above its text as before
     EXPECT_EQ(bar.bottom - bar.top, 320);
     EXPECT_EQ(PageText(document.pages[1]), "running\nFootnotes");
-    EXPECT_EQ(document.outline.at(0).page, 1);
+    EXPECT_EQ(document.outline.back().page, 1);
 }
 
 TEST_F(Layout, AHeadingGoesAlongWithATableThatBeginsOnTheNextPage) {
@@ -204,8 +204,8 @@ TEST_F(Layout, AHeadingGoesAlongWithATableThatBeginsOnTheNextPage) {
     EXPECT_TRUE(document.pages[0].shapes.empty());
     const BoxItem& bar = std::get<BoxItem>(document.pages[1].shapes.at(0));
     EXPECT_EQ(bar.top, 720 - 70);
-    EXPECT_EQ(document.outline.at(0).page, 1);
-    EXPECT_EQ(document.outline.at(0).y, 720 - 70);
+    EXPECT_EQ(document.outline.back().page, 1);
+    EXPECT_EQ(document.outline.back().y, 720 - 70);
     // Heading and empty line, then the header's padding and ascent.
     EXPECT_EQ(document.pages[1].texts[1].y, 720 + 400 + 35 + 160);
 }
@@ -282,6 +282,23 @@ TEST_F(Layout, ARuleBehindThePenStaysWhereItIs) {
     surface.DrawLine(331, 920, 11203, 920);
     surface.Paragraph("two");
     EXPECT_EQ(std::get<LineItem>(Finish().pages[0].shapes[0]).y1, 920);
+}
+
+TEST_F(Layout, ATitlePageStandsInTheOutlineUnderItsFirstLine) {
+    surface.Paragraph("");
+    surface.Paragraph("MARLOW RESIDENCE");
+    surface.NewPage();
+    surface.X1(Left);
+    surface.X2(Right);
+    surface.Y1(700);
+    surface.Y2(1020);
+    surface.Draw(2);
+    surface.Paragraph("Sales Report");
+    const Document& document = Finish();
+    ASSERT_EQ(document.outline.size(), 2U);
+    EXPECT_EQ(document.outline[0].title, "MARLOW RESIDENCE");
+    EXPECT_EQ(document.outline[0].page, 0);
+    EXPECT_EQ(document.outline[1].page, 1);
 }
 
 TEST_F(Layout, AHeadingWithRoomForItsSectionStays) {

@@ -85,6 +85,17 @@ TEST_F(OddCalls, LineSpacingMakesNoLineHigherThanAQuarterPage) {
     EXPECT_EQ(HeightOfALine(), 4000);  // its own height
 }
 
+TEST_F(OddCalls, AGiantHeadingAtTheTopLeavesNoEmptyPageBehind) {
+    surface.FontSize(200);  // a line of 4000; four of them are more than a page
+    surface.X1(Left);
+    surface.X2(Right);
+    surface.Y1(Top - 70);
+    surface.Y2(Top + 250);
+    surface.Draw(2);
+    surface.Paragraph("A");
+    EXPECT_EQ(Finish().pages.size(), 1U);
+}
+
 TEST_F(OddCalls, APenFarOffThePageIsHeld) {
     for (const int place : {INT_MAX, INT_MIN}) {
         surface.CurrentX(place);

@@ -127,9 +127,9 @@ TEST_F(Painters, ThePdfNamesItsTitleAndAuthorAndEmbedsItsFonts) {
 TEST_F(Painters, ThePdfHasAnOutlineOfItsSections) {
     const std::string pdf = PdfBytes(Package());
     EXPECT_THAT(pdf, HasSubstr("/Outlines "));
-    // "Sales Report" in UTF-16, and three sections in all.
+    // "Sales Report" in UTF-16, and title page and three sections in all.
     EXPECT_THAT(pdf, HasSubstr("<FEFF00530061006C006500730020005200650070006F00720074>"));
-    EXPECT_THAT(pdf, HasSubstr("/Count 3\n>>\nendobj"));
+    EXPECT_THAT(pdf, HasSubstr("/Count 4\n>>\nendobj"));
 }
 
 TEST_F(Painters, ADocumentWithoutPagesIsStillAWholePdf) {

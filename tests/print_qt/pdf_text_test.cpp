@@ -146,11 +146,11 @@ TEST_F(Pdf, EverySectionStandsInTheOutlineWithItsPageAndPlace) {
     std::vector<std::string> lines = Split(*outline, '\n');
     lines.pop_back();
     const Document document = LayOut(Job("one_system"));
-    ASSERT_EQ(lines.size(), 3U);
-    ASSERT_EQ(document.outline.size(), 3U);
+    ASSERT_EQ(lines.size(), 4U);
+    ASSERT_EQ(document.outline.size(), 4U);
     const std::pair<const char*, int> expected[] = {
-        {"Project Summary", 2}, {"Sales Report", 2}, {"Footnotes", 3}};
-    for (std::size_t i = 0; i < 3; ++i) {
+        {"MARLOW RESIDENCE", 1}, {"Project Summary", 2}, {"Sales Report", 2}, {"Footnotes", 3}};
+    for (std::size_t i = 0; i < 4; ++i) {
         const auto& [title, page] = expected[i];
         EXPECT_THAT(lines[i], HasSubstr('"' + std::string(title) + '"'));
         // In points from the upper edge of the paper, which is a quarter inch above the page's.

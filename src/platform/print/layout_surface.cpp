@@ -221,7 +221,8 @@ int LayoutSurface::LineHeight(const TextLine& line, const RichParagraph& paragra
 
 void LayoutSurface::WriteLine(const TextLine& line, double left, int height) {
     const bool heading = IsOnBar(line);
-    if (!flow_.Fits(heading ? height * LinesWithHeading : height)) flow_.BreakPage();
+    const int withSection = std::min(height * LinesWithHeading, (Bottom - Top) / 2);
+    if (!flow_.Fits(heading ? withSection : height)) flow_.BreakPage();
     if (heading) {
         WriteHeading(line, left);
     } else {

@@ -21,7 +21,14 @@ void PageFlow::Begin() {
 
 void PageFlow::End() {
     if (HasPage() && onClose) onClose();
+    EnterTitlePage();
     document_.fonts = fonts_.Specs();
+}
+
+void PageFlow::EnterTitlePage() {
+    std::vector<OutlineEntry>& outline = document_.outline;
+    if (outline.empty() || outline.front().page == 0 || document_.pages[0].texts.empty()) return;
+    outline.insert(outline.begin(), {document_.pages[0].texts.front().text, 0, 0});
 }
 
 void PageFlow::EnsurePage() {
@@ -119,8 +126,9 @@ void PageFlow::AddLine(const TextLine& line, double left, int top) {
     for (const LineFragment& fragment : line.fragments) {
         if (fragment.text.find_first_not_of(' ') == std::string::npos) continue;
         Current().texts.push_back({static_cast<int>(std::lround(left + fragment.x)),
-                                   top + line.ascent - fragment.rise, static_cast<int>(std::lround(fragment.width)),
-                                   fragment.font, fragment.color, fragment.text});
+                                   top + line.ascent - fragment.rise,
+                                   static_cast<int>(std::lround(fragment.width)), fragment.font,
+                                   fragment.color, fragment.text});
     }
 }
 

@@ -65,6 +65,8 @@ class PageFlow {
     };
 
     void OpenPage();
+    /// A first page ahead of all headings stands in the outline under its first line.
+    void EnterTitlePage();
     bool HeadingStandsAlone() const;
     std::vector<TextItem> LiftHeading();
     void PutDown(const Heading& heading, std::vector<TextItem> texts, int penBehind);

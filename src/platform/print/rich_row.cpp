@@ -79,7 +79,7 @@ std::vector<Cell> LaidOut(FontTable& fonts, const RichParagraph& row, const Rich
 }
 
 int LineHeight(const TextLine& line, const RichRowPlace& place) {
-    return line.height * place.lineSpacing / 100;
+    return SpacedHeight(line.height, place.lineSpacing);
 }
 
 int Height(const Cell& cell, const RichRowPlace& place) {

@@ -1,6 +1,8 @@
 #include "programs/driver/report_access.h"
 
+#include "platform/qt/painter_page.h"
 #include "platform/qt/painter_pdf.h"
+#include "platform/text/number_text.h"
 #include "reports/screens/report_run.h"
 
 namespace tendo::driver {
@@ -48,9 +50,19 @@ Json DocumentCommand(Session&, const Words&) {
     return DocumentAsJson();
 }
 
+/// With a page number that page alone, as a picture of a screen's resolution.
 Json PdfCommand(Session&, const Words& words) {
-    MustHave(words, 2, "pdf PATH");
-    WritePdf(LastReportRun().document, words[1]);
+    constexpr double ScreenDpi = 96;
+    MustHave(words, 2, "pdf PATH [PAGE]");
+    const Document& document = LastReportRun().document;
+    if (words.size() == 2) {
+        WritePdf(document, words[1]);
+        return nullptr;
+    }
+    const auto page = static_cast<int>(LeadingInteger(words[2]));
+    if (page < 1 || page > static_cast<int>(document.pages.size()))
+        throw CommandFault("there is no page " + words[2]);
+    WritePagePng(document, page - 1, words[1], ScreenDpi);
     return nullptr;
 }
 
