@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "reports/screens/frm_owner.h"
+#include "reports/screens/frm_report_options.h"
 #include "reports/screens/preview_pane.h"
 #include "reports/screens/print_document.h"
 #include "reports/screens/send_proposal.h"
@@ -33,18 +34,24 @@ const ReportChoice reportChoices[] = {
      [] { return Reports().PrintInstallersReport != nullptr; }},
 };
 
-struct PictureChoice {
+struct PngChoice {
     const char* name;
     const char* text;
     bool allPages;
     int dpi;
 };
-const PictureChoice pictureChoices[] = {
+const PngChoice pngChoices[] = {
     {"ToolSavePngPage150", "This page, for the &screen (150 dots an inch)", false, 150},
     {"ToolSavePngPage300", "This page, for &print (300 dots an inch)", false, 300},
     {"ToolSavePngAll150", "&All pages, for the screen (150 dots an inch)", true, 150},
     {"ToolSavePngAll300", "All &pages, for print (300 dots an inch)", true, 300},
 };
+
+void ShowReportOptions() {
+    Form* options = Form::Find("frmReportOptions");
+    if (!options) options = new frmReportOptions;
+    options->ShowForm();
+}
 
 }  // namespace
 
@@ -54,6 +61,7 @@ FrmPreview::FrmPreview() : Form("frmPreview", "Print Preview...", Place::Child, 
     pane_ = new PreviewPane(reportChoices, this);
     pane_->AddThumbnails();
     pane_->AddSearch();
+    pane_->OfferOptions(ShowReportOptions);
     pane_->Tools().AddRule();
     AddOutputs();
     column->addWidget(pane_);
@@ -78,7 +86,7 @@ void FrmPreview::AddPictures() {
     QToolButton* tool =
         pane_->Tools().AddTool({"ToolSavePng", "picture", "Save as pictures (PNG)"});
     auto* menu = new QMenu(tool);
-    for (const PictureChoice& choice : pictureChoices) {
+    for (const PngChoice& choice : pngChoices) {
         QAction* action = menu->addAction(choice.text);
         action->setObjectName(choice.name);
         connect(action, &QAction::triggered, this, [this, &choice] {

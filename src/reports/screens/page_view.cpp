@@ -129,7 +129,7 @@ void PageView::PaintGround(QPainter& painter) const {
     const QRect paper = PaperRect();
     painter.setPen(Qt::NoPen);
     for (int i = Shadow; i > 0; --i) {
-        painter.setBrush(QColor(0, 0, 0, 8));
+        painter.setBrush(QColor(0, 0, 0, 5));
         painter.drawRoundedRect(paper.adjusted(-i, -i + 2, i, i + 2), 4, 4);
     }
     if (!hasFocus()) return;

@@ -87,7 +87,7 @@ bool PreviewPane::HandleZoomKey(const QKeyEvent& event) {
 
 bool PreviewPane::HandleSearchKey(const QKeyEvent& event) {
     if (event.key() == Qt::Key_F4 && thumbnails_ && event.modifiers() == Qt::NoModifier) {
-        findChild<QToolButton*>("ToolThumbnails")->click();
+        ToolThumbnails_->click();
         return true;
     }
     if (!find_) return false;

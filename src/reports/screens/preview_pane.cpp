@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QPushButton>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -97,7 +98,10 @@ QWidget* PreviewPane::MakeStrips() {
 
 QWidget* PreviewPane::MakeEmptyPage() {
     auto* empty = new QWidget(stack_);
+    empty->setAttribute(Qt::WA_StyledBackground);
+    empty->setProperty("ground", true);
     auto* column = new QVBoxLayout(empty);
+    column->setSpacing(16);
     lblNoPages_ = new QLabel(empty);
     lblNoPages_->setObjectName("lblNoPages");
     lblNoPages_->setAccessibleName("No pages");
@@ -105,8 +109,20 @@ QWidget* PreviewPane::MakeEmptyPage() {
     lblNoPages_->setWordWrap(true);
     lblNoPages_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     lblNoPages_->setProperty("quiet", true);
+    btnReportOptions_ = new QPushButton("Report Options...", empty);
+    btnReportOptions_->setObjectName("btnReportOptions");
+    btnReportOptions_->setAutoDefault(false);
+    btnReportOptions_->hide();
+    column->addStretch(1);
     column->addWidget(lblNoPages_);
+    column->addWidget(btnReportOptions_, 0, Qt::AlignHCenter);
+    column->addStretch(1);
     return empty;
+}
+
+void PreviewPane::OfferOptions(std::function<void()> open) {
+    btnReportOptions_->show();
+    connect(btnReportOptions_, &QPushButton::clicked, this, std::move(open));
 }
 
 void PreviewPane::AddThumbnails() {
@@ -115,14 +131,14 @@ void PreviewPane::AddThumbnails() {
     splitter_->setStretchFactor(0, 0);
     splitter_->setStretchFactor(1, 1);
     const bool shown = Settings().GetSetting(SettingsSection, ThumbnailsKey, "1") == "1";
-    QToolButton* tool =
+    ToolThumbnails_ =
         tools_->AddTool({"ToolThumbnails", "thumbnails", "Show all pages at the side (F4)"});
-    tool->setCheckable(true);
-    tool->setChecked(shown);
-    thumbnails_->setVisible(shown);
-    connect(tool, &QToolButton::toggled, this, [this](bool on) {
-        thumbnails_->setVisible(on);
-        if (!on && !view_->hasFocus()) FocusPage();
+    ToolThumbnails_->setCheckable(true);
+    ToolThumbnails_->setChecked(shown);
+    ShowThumbnails();
+    connect(ToolThumbnails_, &QToolButton::toggled, this, [this](bool on) {
+        ShowThumbnails();
+        if (!on) FocusPage();
         try {
             Settings().SaveSetting(SettingsSection, ThumbnailsKey, on ? "1" : "0");
         } catch (const RuntimeError&) {
@@ -130,6 +146,10 @@ void PreviewPane::AddThumbnails() {
         }
     });
     connect(thumbnails_, &PageThumbnails::PageChosen, this, &PreviewPane::ShowPage);
+}
+
+void PreviewPane::ShowThumbnails() {
+    if (thumbnails_) thumbnails_->setVisible(ToolThumbnails_->isChecked() && PageCount() > 0);
 }
 
 void PreviewPane::AddSearch() {
@@ -169,6 +189,7 @@ void PreviewPane::ShowDocument(Document document, const std::vector<std::string>
                              ? "The marked reports have nothing to print for this project."
                              : "No report is marked. Mark reports under Reports > Report Options.");
     stack_->setCurrentIndex(PageCount() > 0 ? 0 : 1);
+    ShowThumbnails();
     ShowPage(0);
     if (find_ && find_->isVisible()) Find();
 }
@@ -222,7 +243,9 @@ void PreviewPane::ApplyFit() {
 }
 
 void PreviewPane::FocusPage() {
-    view_->setFocus(Qt::OtherFocusReason);
+    QWidget* page = view_;
+    if (PageCount() == 0) page = btnReportOptions_;
+    page->setFocus(Qt::OtherFocusReason);
 }
 
 void PreviewPane::ShowNote(const QString& text) {

@@ -10,8 +10,10 @@
 
 class QKeyEvent;
 class QLabel;
+class QPushButton;
 class QSplitter;
 class QStackedWidget;
+class QToolButton;
 
 namespace tendo {
 
@@ -25,6 +27,10 @@ class PreviewPane : public QWidget {
     Q_OBJECT
   public:
     PreviewPane(std::span<const ReportChoice> choices, QWidget* parent);
+
+    /// Opens the report options, which a document without pages offers; without it nothing is
+    /// offered.
+    void OfferOptions(std::function<void()> open);
 
     /// What runs ahead of every report, before the fields of all screens are stored.
     std::function<void()> BeforeRun;
@@ -54,6 +60,7 @@ class PreviewPane : public QWidget {
     QWidget* MakeEmptyPage();
     void ShowDocument(Document document, const std::vector<std::string>& problems);
     void ShowPage(int page);
+    void ShowThumbnails();
     void ZoomAround(int percent, QPoint at);
     void ApplyFit();
     void Turn(int pages);
@@ -80,8 +87,10 @@ class PreviewPane : public QWidget {
     FindBar* find_ = nullptr;
     QSplitter* splitter_ = nullptr;
     PageThumbnails* thumbnails_ = nullptr;
+    QToolButton* ToolThumbnails_ = nullptr;
     QStackedWidget* stack_ = nullptr;
     QLabel* lblNoPages_ = nullptr;
+    QPushButton* btnReportOptions_ = nullptr;
     PageView* view_ = nullptr;
     PageScroller* scroller_ = nullptr;
 };

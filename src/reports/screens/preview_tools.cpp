@@ -39,7 +39,6 @@ PreviewTools::PreviewTools(std::span<const ReportChoice> choices, QWidget* paren
     AddReports(choices);
     AddZoom();
     AddPages();
-    AddRule();
     AddTool({"ToolRefresh", "refresh", "Write the report anew (F5)"},
             [this] { Q_EMIT RefreshWanted(); });
     ShowZoom(zoom_);
@@ -116,7 +115,7 @@ void PreviewTools::AddZoom() {
 void PreviewTools::AddPages() {
     ToolPageNumber_ = new QLineEdit("1", this);
     ToolPageNumber_->setObjectName("ToolPageNumber");
-    ToolPageNumber_->setMaximumWidth(fontMetrics().horizontalAdvance("00000") + 24);
+    ToolPageNumber_->setMaximumWidth(fontMetrics().horizontalAdvance("0000") + 22);
     ToolPageNumber_->setAlignment(Qt::AlignRight);
     ToolPageNumber_->setToolTip("The page shown (Page Up and Page Down)");
     connect(ToolPageNumber_, &QLineEdit::editingFinished, this, &PreviewTools::TakePage);
