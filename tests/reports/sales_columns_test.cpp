@@ -199,5 +199,95 @@ TEST_F(SalesColumns, ASingleWaterHeaterIsFoundByItsPrice) {
                 Contains("  Water Heater is used for both Hot Water and Space Heat"));
 }
 
+/// Every choice of what the five systems hold, a letter for each: "." nothing, "m" a cooling model
+/// without a price, "C" a priced cooling model, "H" a priced heating model, "W" a priced water
+/// heater and no other model.
+class EveryChoiceOfSystems : public ReportTest {
+  protected:
+    static constexpr std::string_view Letters = ".mCHW";
+
+    void Fill(const std::string& systems) {
+        project.CLGModelData = {};
+        project.HTGModelData = {};
+        project.ModelInfo = {};
+        for (std::size_t i = 0; i < systems.size(); ++i) {
+            const std::string number = std::to_string(i + 1);
+            ModelInfoRecord& info = project.ModelInfo[i];
+            if (systems[i] == 'm' || systems[i] == 'C') project.CLGModelData[i].ModelNum = number;
+            if (systems[i] == 'H') project.HTGModelData[i].ModelNum = number;
+            if (systems[i] == 'C') info.CLGSalePrice = info.CLGModelDealerCost = 1;
+            if (systems[i] == 'H') info.HTGSalePrice = info.HTGModelDealerCost = 1;
+            if (systems[i] == 'W') info.WHSalePrice = 1;
+        }
+    }
+
+    static std::string Places(const std::string& systems, std::string_view letters) {
+        std::string places;
+        for (std::size_t i = 0; i < systems.size(); ++i)
+            if (letters.find(systems[i]) != std::string_view::npos)
+                places += static_cast<char>('1' + i);
+        return places;
+    }
+
+    /// "none"; "stops at" and the systems at fault; or the rows of model numbers.
+    static std::string Expected(const std::string& systems) {
+        const std::string priced = Places(systems, "CHW");
+        if (priced.empty()) return "none";
+        if (priced.size() == 1) {
+            const char letter = systems[static_cast<std::size_t>(priced[0] - '1')];
+            return letter == 'C' ? priced + "||" : letter == 'H' ? "|" + priced + "|" : "||";
+        }
+        const std::string columns = Places(systems, "mCH");
+        if (columns.size() < priced.size()) return "stops at " + Places(systems, "W");
+        std::string cooling, heating;
+        for (const char place : columns.substr(0, priced.size())) {
+            const bool isHeating = systems[static_cast<std::size_t>(place - '1')] == 'H';
+            (isHeating ? heating : cooling) += place;
+            cooling += '|';
+            heating += '|';
+        }
+        cooling.pop_back();
+        heating.pop_back();
+        return cooling + " " + heating;
+    }
+
+    std::string Written() {
+        plainContext.Problems.clear();
+        PreviewSalesOnly(plainContext);
+        if (!plainContext.Problems.empty()) {
+            std::string numbers;
+            const std::string& text = plainContext.Problems.front();
+            for (const char character : text.substr(0, text.find(" a price but")))
+                if (character >= '1' && character <= '5') numbers += character;
+            return "stops at " + numbers;
+        }
+        std::string found;
+        for (const SurfaceCall& call : plainSurface.Calls())
+            if (call.op == "AddTable") found = std::get<std::string>(call.fields.at(2).second);
+        std::string rows;
+        const std::string label = "Unit Model Number:|";
+        for (std::size_t at = found.find(label); at != std::string::npos;
+             at = found.find(label, at + 1)) {
+            const std::size_t from = at + label.size();
+            rows += (rows.empty() ? "" : " ") + found.substr(from, found.find(';', from) - from);
+        }
+        return rows.empty() ? "none" : rows;
+    }
+};
+
+TEST_F(EveryChoiceOfSystems, ShowsTheSystemsThatItIsTo) {
+    SwitchOffAllRows();
+    std::string systems(5, '.');
+    for (int choice = 0; choice < 3125; ++choice) {
+        int rest = choice;
+        for (char& letter : systems) {
+            letter = Letters[static_cast<std::size_t>(rest % 5)];
+            rest /= 5;
+        }
+        Fill(systems);
+        ASSERT_EQ(Written(), Expected(systems)) << systems;
+    }
+}
+
 }  // namespace
 }  // namespace tendo
