@@ -190,7 +190,8 @@ bool ModelSelectionScreen(const std::string& folder) {
     Project().CLGModelData[0].DB = "selection40000.mdb";
     State().CommonDirectory = WithSeparator(folder);
     Project().GPDProjectFormat.DefaultDB = "selection40000";
-    return MeasureOpening(file) & MeasureLimits(file);
+    const bool opening = MeasureOpening(file);
+    return MeasureLimits(file) && opening;
 }
 
 }  // namespace tendo::bench
