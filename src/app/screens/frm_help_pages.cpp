@@ -94,7 +94,7 @@ const std::vector<std::pair<std::string, std::string>>& HelpPagesByScreen() {
         {"frmDetailModelData", "model-details.md"},
         {"frmMisModelData", "model-details.md"},
         {"frmWHInfo", "hot-water.md"},
-        {"frmPreview", "reports.md"},
+        {"frmPreview", "preview.md"},
         {"frmPrint", "reports.md"},
         {"frmTempFile", "files.md"},
         {"frmMatCosts", "takeoff.md"},
