@@ -17,6 +17,7 @@ run_one() {
     [ -d "tests/data/$name" ] && seeds+=("tests/data/$name")
     # The sample databases, so that the reader is met behind its first checks.
     [ "$name" = workbook ] && seeds+=(tests/data/office tests/data/office/books)
+    [ "$name" = drawing ] && seeds+=(data/icons)
     [ "$name" = jet ] && seeds+=(build/sanitizers/share/tendo)
     if ! "$program" -max_total_time="$seconds" -timeout=2 -detect_leaks=0 -rss_limit_mb=1024 -malloc_limit_mb=256 \
         -max_len=300000 -artifact_prefix="build/fuzz/$name-" "$corpus" "${seeds[@]}" >"$log" 2>&1; then

@@ -239,7 +239,7 @@ std::string RedMetafile(bool placeable) {
                              Little(2, 2) + Little(8, 4) + Little(0, 2) + records;
     if (!placeable) return file;
     std::string header("\xD7\xCD\xC6\x9A");
-    for (const std::uint32_t word : {0, 0, 0, 100, 50, 1440, 0, 0})
+    for (const std::uint32_t word : {0U, 0U, 0U, 100U, 50U, 1440U, 0U, 0U})
         header += Little(word, 2);
     std::uint32_t sum = 0;  // of the ten words ahead of it
     for (std::size_t at = 0; at < header.size(); at += 2)

@@ -126,6 +126,19 @@ TEST_F(PictureKinds, OfAnIconTheLargestPictureIsShown) {
     ExpectColor(Painted(Path("sizes.ico"), 48, 48), 20, 20, Qt::green);
 }
 
+TEST_F(PictureKinds, AnIconMayHoldPngFiles) {
+    // One entry of 64 by 64 that is a whole PNG file, behind a header of 6 and an entry of 16
+    // bytes.
+    QImage image(64, 64, QImage::Format_RGB32);
+    image.fill(Qt::magenta);
+    const std::string png = Encoded(image, "PNG");
+    const std::string file = Little(0, 2) + Little(1, 2) + Little(1, 2) + Little(64, 1) +
+                             Little(64, 1) + Little(0, 2) + Little(1, 2) + Little(32, 2) +
+                             Little(static_cast<std::uint32_t>(png.size()), 4) + Little(22, 4) +
+                             png;
+    ExpectColor(Painted("new.ico", file, 64, 64), 30, 30, Qt::magenta);
+}
+
 TEST_F(PictureKinds, ADrawing) {
     const QImage image = Painted("logo.svg",
                                  R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 20 10">

@@ -46,7 +46,10 @@ class Metafile {
 
 constexpr int CreatePen = 0x02FA, CreateBrush = 0x02FC, Select = 0x012D, Rectangle = 0x041B,
               Polygon = 0x0324, PolyPolygon = 0x0538, WindowOrigin = 0x020B, WindowExtent = 0x020C,
-              Ellipse = 0x0418, StretchBitmap = 0x0F43, MoveTo = 0x0214, LineTo = 0x0213;
+              Ellipse = 0x0418, StretchBitmap = 0x0F43, MoveTo = 0x0214, LineTo = 0x0213,
+              SaveState = 0x001E, RestoreState = 0x0127, IntersectClip = 0x0416,
+              MoveWindowOrigin = 0x020F, SetPixel = 0x041F, FillBlock = 0x061D, CopyBlock = 0x0940,
+              CopyBitmap = 0x0D33;
 constexpr int NoPen = 5;
 
 /// A metafile with a red brush and no pen in use.
@@ -119,6 +122,57 @@ TEST(Metafiles, ABitmapFillsItsPlace) {
     EXPECT_EQ(image.pixelColor(150, 50), QColor(Qt::white));
 }
 
+TEST(Metafiles, ABitmapIsCopiedAtItsPlace) {
+    // One red pixel as above; (0, 0) to (50, 50), a hundred pixels square from (10, 10).
+    const std::vector<int> red = {40, 0, 1, 0, 1, 0, 1, 24, 0, 0, 0,
+                                  0,  0, 0, 0, 0, 0, 0, 0,  0, 0, 0x00FF};
+    std::vector<int> block = {0x20, 0xCC, 0, 0, 50, 50, 0, 0};
+    block.insert(block.end(), red.begin(), red.end());
+    std::vector<int> bitmap = {0, 1, 0, 0, 0, 50, 50, 0, 0};
+    bitmap.insert(bitmap.end(), red.begin(), red.end());
+    for (const QImage& image : {Metafile().Record(CopyBlock, block).Painted(),
+                                Metafile().Record(CopyBitmap, bitmap).Painted()}) {
+        EXPECT_EQ(image.pixelColor(50, 50), QColor(Qt::red));
+        EXPECT_EQ(image.pixelColor(150, 50), QColor(Qt::white));
+    }
+}
+
+TEST(Metafiles, ABlockTakesTheBrushInUse) {
+    // Height 20, width 40, at y 10 and x 10: (30, 30) to (110, 70) of the picture.
+    const QImage image = RedFill().Record(FillBlock, {0x21, 0xF0, 20, 40, 10, 10}).Painted();
+    EXPECT_EQ(image.pixelColor(31, 31), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(109, 69), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(112, 50), QColor(Qt::white));
+}
+
+TEST(Metafiles, APixelIsAUnitOfTheWindow) {
+    // Blue at y 20 and x 30: two pixels square from (70, 50).
+    const QImage image = Metafile().Record(SetPixel, {0, 0x00FF, 20, 30}).Painted();
+    EXPECT_EQ(image.pixelColor(70, 50), QColor(Qt::blue));
+    EXPECT_EQ(image.pixelColor(71, 51), QColor(Qt::blue));
+    EXPECT_EQ(image.pixelColor(73, 51), QColor(Qt::white));
+}
+
+TEST(Metafiles, ASavedStateComesBack) {
+    // The clip and the moved window hold until the state comes back; then the whole is red again.
+    const auto between = RedFill()
+                             .Record(SaveState, {})
+                             .Record(IntersectClip, {50, 50, 0, 0})
+                             .Record(MoveWindowOrigin, {0, -20});
+    Metafile clipped = between, restored = between;
+    const QImage within = clipped.Record(Rectangle, {50, 100, 0, 0}).Painted();
+    EXPECT_EQ(within.pixelColor(30, 60), QColor(Qt::white)) << "moved by 20 to the right";
+    EXPECT_EQ(within.pixelColor(100, 60), QColor(Qt::red));
+    EXPECT_EQ(within.pixelColor(150, 60), QColor(Qt::white)) << "clipped at 50";
+    for (const int state : {-1, 1}) {
+        Metafile all = restored;
+        const QImage image =
+            all.Record(RestoreState, {state}).Record(Rectangle, {50, 100, 0, 0}).Painted();
+        EXPECT_EQ(image.pixelColor(30, 60), QColor(Qt::red));
+        EXPECT_EQ(image.pixelColor(190, 60), QColor(Qt::red));
+    }
+}
+
 TEST(Metafiles, NothingIsPaintedOutsideTheBox) {
     const QImage image = RedFill().Record(Rectangle, {500, 500, -500, -500}).Painted();
     EXPECT_EQ(image.pixelColor(100, 60), QColor(Qt::red));
@@ -137,6 +191,8 @@ TEST(Metafiles, AnotherFileIsRefused) {
 TEST(Metafiles, DamagedRecordsArePassedOver) {
     const QImage image = RedFill()
                              .Record(Select, {99})
+                             .Record(RestoreState, {-1})
+                             .Record(RestoreState, {7})
                              .Record(Polygon, {32767, 1})
                              .Record(PolyPolygon, {32767, 32767})
                              .Record(StretchBitmap, {0, 0, 0})

@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <utility>
 
 #include "platform/print/picture_kind.h"
 #include "platform/qt/drawing_cleaner.h"
@@ -17,7 +18,7 @@ namespace tendo {
 namespace {
 
 constexpr int MostMilliseconds = 5000;
-constexpr qint64 MostBytes = 16 << 20;
+constexpr qint64 MostBytes = 16 << 20, MostMemory = 1 << 30;
 
 struct Converter {
     const char* program;
@@ -37,21 +38,19 @@ const Converter& ConverterOf(PictureKind kind) {
     return kind == PictureKind::EnhancedMetafile ? enhanced : plain;
 }
 
-#ifdef Q_OS_UNIX
-void Limit(int resource, rlim_t most) {
-    const rlimit limit{most, most};
-    setrlimit(static_cast<__rlimit_resource>(resource), &limit);
-}
-#endif
-
 /// What the process may take of the machine, besides time.
 void LimitProcess(QProcess& process) {
 #ifdef Q_OS_UNIX
     process.setChildProcessModifier([] {
-        Limit(RLIMIT_FSIZE, static_cast<rlim_t>(MostBytes));
-        Limit(RLIMIT_CPU, MostMilliseconds / 1000);
-        Limit(RLIMIT_AS, rlim_t{1} << 30);
-        Limit(RLIMIT_CORE, 0);
+        const std::pair<decltype(RLIMIT_FSIZE), rlim_t> limits[] = {
+            {RLIMIT_FSIZE, MostBytes},
+            {RLIMIT_CPU, MostMilliseconds / 1000},
+            {RLIMIT_AS, MostMemory},
+            {RLIMIT_CORE, 0}};
+        for (const auto& [resource, most] : limits) {
+            const rlimit limit{most, most};
+            setrlimit(resource, &limit);
+        }
     });
 #else
     Q_UNUSED(process);

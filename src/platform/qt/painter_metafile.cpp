@@ -21,7 +21,8 @@ namespace tendo {
 namespace {
 
 constexpr std::size_t PlaceableHeader = 22, FileHeader = 18, RecordHeader = 6;
-constexpr std::size_t MostObjects = 4096;
+constexpr std::size_t MostObjects = 4096, MostSavedStates = 256;
+constexpr int Farthest = 1 << 24;  // units from the window's first origin
 
 /// 16-bit words and bytes of a record by their offset; 0 beyond its end.
 class Record {
@@ -57,12 +58,18 @@ using Object = std::variant<std::monostate, QPen, QBrush, QFont, OtherObject>;
 
 class MetafilePlayer {
   public:
+    ~MetafilePlayer() {
+        for (std::size_t i = 0; i < saved_.size(); ++i)
+            painter_.restore();
+    }
+    MetafilePlayer(const MetafilePlayer&) = delete;
+    MetafilePlayer& operator=(const MetafilePlayer&) = delete;
     MetafilePlayer(QPainter& painter, const Record& header, const QRectF& box)
         : painter_(painter), box_(box) {
-        left_ = header.Word(3);
-        top_ = header.Word(4);
-        width_ = header.Word(5) - left_;
-        height_ = header.Word(6) - top_;
+        state_.left = header.Word(3);
+        state_.top = header.Word(4);
+        state_.width = header.Word(5) - state_.left;
+        state_.height = header.Word(6) - state_.top;
         painter_.setPen(QPen(Qt::black, 0));
         painter_.setBrush(Qt::white);
     }
@@ -80,6 +87,14 @@ class MetafilePlayer {
     }
 
   private:
+    /// What the painter doesn't hold itself.
+    struct State {
+        int left = 0, top = 0, width = 0, height = 0;  // the window
+        Qt::FillRule fill = Qt::OddEvenFill;
+        QColor textColor = Qt::black;
+        int textAlign = 0;
+        QPointF pen;
+    };
     using Action = void (MetafilePlayer::*)(const Record&);
     struct Entry {
         int function;
@@ -88,6 +103,10 @@ class MetafilePlayer {
 
     void Run(int function, const Record& record) {
         static constexpr std::array Entries = {
+            Entry{0x001E, &MetafilePlayer::SaveState},
+            Entry{0x0127, &MetafilePlayer::RestoreState},
+            Entry{0x0416, &MetafilePlayer::IntersectClip},
+            Entry{0x020F, &MetafilePlayer::MoveWindowOrigin},
             Entry{0x020B, &MetafilePlayer::SetWindowOrigin},
             Entry{0x020C, &MetafilePlayer::SetWindowExtent},
             Entry{0x0106, &MetafilePlayer::SetFillMode},
@@ -115,17 +134,22 @@ class MetafilePlayer {
             Entry{0x0830, &MetafilePlayer::Chord},
             Entry{0x0521, &MetafilePlayer::TextOut},
             Entry{0x0A32, &MetafilePlayer::ExtTextOut},
+            Entry{0x041F, &MetafilePlayer::SetPixel},
+            Entry{0x061D, &MetafilePlayer::FillBlock},
             Entry{0x0F43, &MetafilePlayer::StretchBitmap},
             Entry{0x0B41, &MetafilePlayer::StretchBlock},
+            Entry{0x0940, &MetafilePlayer::CopyBlock},
+            Entry{0x0D33, &MetafilePlayer::CopyBitmap},
         };
         for (const Entry& entry : Entries)
             if (entry.function == function) (this->*entry.action)(record);
     }
 
-    double ScaleX() const { return width_ == 0 ? 0 : box_.width() / width_; }
-    double ScaleY() const { return height_ == 0 ? 0 : box_.height() / height_; }
+    double ScaleX() const { return state_.width == 0 ? 0 : box_.width() / state_.width; }
+    double ScaleY() const { return state_.height == 0 ? 0 : box_.height() / state_.height; }
     QPointF At(int x, int y) const {
-        return {box_.left() + (x - left_) * ScaleX(), box_.top() + (y - top_) * ScaleY()};
+        return {box_.left() + (x - state_.left) * ScaleX(),
+                box_.top() + (y - state_.top) * ScaleY()};
     }
     QPointF Point(const Record& record, std::size_t index) const {
         return At(record.Word(index), record.Word(index + 1));
@@ -144,19 +168,46 @@ class MetafilePlayer {
         return points;
     }
 
+    void SaveState(const Record&) {
+        if (saved_.size() == MostSavedStates) return;
+        painter_.save();
+        saved_.push_back(state_);
+    }
+    /// Back to a state by its number from 1, or by so many states as a number below zero says.
+    void RestoreState(const Record& record) {
+        const int held = static_cast<int>(saved_.size());
+        const int number = record.Word(0) < 0 ? held + 1 + record.Word(0) : record.Word(0);
+        if (number < 1 || number > held) return;
+        for (int i = held; i >= number; --i) {
+            painter_.restore();
+            state_ = saved_.back();
+            saved_.pop_back();
+        }
+    }
+    void IntersectClip(const Record& record) {
+        painter_.setClipRect(Corners(record, 0), Qt::IntersectClip);
+    }
+
+    void MoveWindowOrigin(const Record& record) {
+        const auto moved = [](int from, int by) {
+            return std::clamp(from + by, -Farthest, Farthest);
+        };
+        state_.top = moved(state_.top, record.Word(0));
+        state_.left = moved(state_.left, record.Word(1));
+    }
     void SetWindowOrigin(const Record& record) {
-        top_ = record.Word(0);
-        left_ = record.Word(1);
+        state_.top = record.Word(0);
+        state_.left = record.Word(1);
     }
     void SetWindowExtent(const Record& record) {
-        height_ = record.Word(0);
-        width_ = record.Word(1);
+        state_.height = record.Word(0);
+        state_.width = record.Word(1);
     }
     void SetFillMode(const Record& record) {
-        fill_ = record.Word(0) == 2 ? Qt::WindingFill : Qt::OddEvenFill;
+        state_.fill = record.Word(0) == 2 ? Qt::WindingFill : Qt::OddEvenFill;
     }
-    void SetTextColor(const Record& record) { textColor_ = record.Color(0); }
-    void SetTextAlign(const Record& record) { textAlign_ = record.Word(0); }
+    void SetTextColor(const Record& record) { state_.textColor = record.Color(0); }
+    void SetTextAlign(const Record& record) { state_.textAlign = record.Word(0); }
 
     void Create(Object object) {
         const auto free = std::find_if(objects_.begin(), objects_.end(), [](const Object& held) {
@@ -204,21 +255,21 @@ class MetafilePlayer {
         if (record.Count(0) < objects_.size()) objects_[record.Count(0)] = std::monostate{};
     }
 
-    void MoveTo(const Record& record) { pen_ = At(record.Word(1), record.Word(0)); }
+    void MoveTo(const Record& record) { state_.pen = At(record.Word(1), record.Word(0)); }
     void LineTo(const Record& record) {
         const QPointF end = At(record.Word(1), record.Word(0));
-        painter_.drawLine(pen_, end);
-        pen_ = end;
+        painter_.drawLine(state_.pen, end);
+        state_.pen = end;
     }
     void Polygon(const Record& record) {
-        painter_.drawPolygon(Points(record, 1, record.Count(0)), fill_);
+        painter_.drawPolygon(Points(record, 1, record.Count(0)), state_.fill);
     }
     void Polyline(const Record& record) {
         painter_.drawPolyline(Points(record, 1, record.Count(0)));
     }
     void PolyPolygon(const Record& record) {
         QPainterPath path;
-        path.setFillRule(fill_);
+        path.setFillRule(state_.fill);
         const std::size_t count = std::min(record.Count(0), record.Words());
         std::size_t first = 1 + count;
         for (std::size_t i = 0; i < count && first < record.Words(); ++i) {
@@ -265,13 +316,13 @@ class MetafilePlayer {
         const QString text = QString::fromStdString(FromWindows1252(bytes));
         const QFontMetricsF metrics(painter_.font());
         const double width = metrics.horizontalAdvance(text);
-        if ((textAlign_ & Centre) == Centre)
+        if ((state_.textAlign & Centre) == Centre)
             at.rx() -= width / 2;
-        else if (textAlign_ & Right)
+        else if (state_.textAlign & Right)
             at.rx() -= width;
-        if ((textAlign_ & BaseLine) != BaseLine) at.ry() += metrics.ascent();
+        if ((state_.textAlign & BaseLine) != BaseLine) at.ry() += metrics.ascent();
         const QPen pen = painter_.pen();
-        painter_.setPen(textColor_);
+        painter_.setPen(state_.textColor);
         painter_.drawText(at, text);
         painter_.setPen(pen);
     }
@@ -295,14 +346,23 @@ class MetafilePlayer {
     }
     void StretchBitmap(const Record& record) { DrawBitmap(record, 7); }
     void StretchBlock(const Record& record) { DrawBitmap(record, 6); }
+    void CopyBlock(const Record& record) { DrawBitmap(record, 4); }
+    void CopyBitmap(const Record& record) { DrawBitmap(record, 5); }
+    void SetPixel(const Record& record) {
+        const int x = record.Word(3), y = record.Word(2);
+        painter_.fillRect(QRectF(At(x, y), At(x + 1, y + 1)).normalized(), record.Color(0));
+    }
+    /// A rectangle of the brush in use; its height and width stand ahead of its place.
+    void FillBlock(const Record& record) {
+        const int x = record.Word(5), y = record.Word(4);
+        const QPointF end = At(x + record.Word(3), y + record.Word(2));
+        painter_.fillRect(QRectF(At(x, y), end).normalized(), painter_.brush());
+    }
 
     QPainter& painter_;
     QRectF box_;
-    int left_ = 0, top_ = 0, width_ = 0, height_ = 0;
-    Qt::FillRule fill_ = Qt::OddEvenFill;
-    QColor textColor_ = Qt::black;
-    int textAlign_ = 0;
-    QPointF pen_;
+    State state_;
+    std::vector<State> saved_;
     std::vector<Object> objects_;
 };
 

@@ -37,7 +37,7 @@ void PictureBox::ShowFile(const std::string& path) {
     SetStyleFlag(this, "vacant", !picture);
     if (!picture) {
         setPixmap({});
-        setText(QStringLiteral("No picture"));
+        setText(path.empty() ? QStringLiteral("No picture") : QStringLiteral("No such file"));
         setToolTip({});
         return;
     }

@@ -5,15 +5,15 @@
 
 namespace tendo {
 
-/// A picture file on a screen, in its own proportions on white paper, as reports print it. Without
-/// a file it says that there is none.
+/// A picture file on a screen, in its own proportions on white paper. Without a file it says that
+/// there is none.
 class PictureBox : public QLabel {
     Q_OBJECT
   public:
     /// `largest`: the widest and highest the picture may be.
     PictureBox(const QString& name, const QString& spoken, QSize largest, QWidget* parent);
 
-    /// Loads a file; an empty or unknown path empties the box.
+    /// Loads a file; an empty path empties the box.
     void ShowFile(const std::string& path);
 
   Q_SIGNALS:
