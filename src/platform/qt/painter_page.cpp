@@ -70,9 +70,12 @@ void Paint(QPainter& painter, const PictureItem& picture) {
     PaintPicture(painter, picture.path, box, TwipsPerPoint);
 }
 
-void Paint(QPainter& painter, const TextItem& text, const std::vector<FontSpec>& fonts) {
-    painter.setFont(DocumentFont(fonts.at(static_cast<std::size_t>(text.font))));
+void Paint(QPainter& painter, const TextItem& text, const std::vector<FontSpec>& fonts,
+           LetterSetter* letters) {
+    const FontSpec& font = fonts.at(static_cast<std::size_t>(text.font));
     painter.setPen(QColor::fromRgb(text.color));
+    if (letters && letters->Draw(painter, QPointF(text.x, text.y), font, text.text)) return;
+    painter.setFont(DocumentFont(font));
     painter.drawText(QPointF(text.x, text.y), QString::fromStdString(text.text));
 }
 
@@ -86,7 +89,8 @@ void SavePng(const QImage& image, const std::string& path) {
 
 }  // namespace
 
-void PaintPage(QPainter& painter, const Document& document, int page, double scale) {
+void PaintPage(QPainter& painter, const Document& document, int page, double scale,
+               LetterSetter* letters) {
     const Page& contents = document.pages.at(static_cast<std::size_t>(page));
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
@@ -96,7 +100,7 @@ void PaintPage(QPainter& painter, const Document& document, int page, double sca
     for (const Shape& shape : contents.shapes)
         std::visit([&](const auto& item) { Paint(painter, item); }, shape);
     for (const TextItem& text : contents.texts)
-        Paint(painter, text, document.fonts);
+        Paint(painter, text, document.fonts, letters);
     painter.restore();
 }
 

@@ -3,14 +3,17 @@
 #include <QImage>
 
 #include "platform/print/document.h"
+#include "platform/qt/letter_setter.h"
 
 class QPainter;
 
 namespace tendo {
 
 /// Paints one page, `page` from 0, with the paper's corner at the painter's origin. `scale` is
-/// device pixels for a twip. Pictures that can't be read are left out.
-void PaintPage(QPainter& painter, const Document& document, int page, double scale);
+/// device pixels for a twip. Pictures that can't be read are left out. `letters`, for documents
+/// that go into a file, sets texts that need no more.
+void PaintPage(QPainter& painter, const Document& document, int page, double scale,
+               LetterSetter* letters = nullptr);
 
 /// The page on white paper at `dpi` dots an inch.
 QImage PageImage(const Document& document, int page, double dpi);

@@ -46,9 +46,10 @@ class FixedHashSeed {
 
 void PaintPages(QPdfWriter& writer, const Document& document) {
     QPainter painter(&writer);
+    LetterSetter letters;
     for (int page = 0; page < static_cast<int>(document.pages.size()); ++page) {
         if (page > 0) writer.newPage();
-        PaintPage(painter, document, page, 1.0);
+        PaintPage(painter, document, page, 1.0, &letters);
     }
 }
 

@@ -128,6 +128,7 @@ PrintResult PrintPages(QPrinter& printer, const Document& document, const std::v
     const QTransform place = PlaceOnPaper(printer.pageLayout(), printer.resolution());
     const SpoolFolder spool;
     QPainter painter;
+    LetterSetter letters;
     if (pages.empty() || !painter.begin(&printer)) return {PrintOutcome::Refused, {}};
     const int count = static_cast<int>(pages.size());
     for (int done = 0; done < count; ++done) {
@@ -136,7 +137,7 @@ PrintResult PrintPages(QPrinter& printer, const Document& document, const std::v
         if (done > 0 && !printer.newPage())
             return Withdraw(printer, painter, spool, PrintOutcome::Refused);
         painter.setTransform(place);
-        PaintPage(painter, document, pages[static_cast<std::size_t>(done)], 1.0);
+        PaintPage(painter, document, pages[static_cast<std::size_t>(done)], 1.0, &letters);
     }
     return Finish(printer, painter);
 }
