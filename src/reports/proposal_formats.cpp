@@ -232,12 +232,17 @@ bool LoadProposalFormat(std::string_view name, ReportOptionValues& values, Footn
     Database formats = Database::OpenDatabase(ProposalFormatFile());
     Recordset rows = formats.OpenRecordset(FormatTable);
     if (!Walk(rows, name)) return false;
-    for (const FormatField& field : FieldsOf(values))
+    ReportOptionValues read = values;
+    for (const FormatField& field : FieldsOf(read))
         ReadField(rows, field);
+    std::vector<FootNoteRow> notes;
+    for (Recordset stored = formats.OpenRecordset(FootnoteTable); Walk(stored, name);
+         stored.MoveNext())
+        notes.push_back({stored.Text("FootNoteName"), stored.Text("Description")});
+    values = std::move(read);
     ClearFootnotes(footnotes);
-    for (Recordset notes = formats.OpenRecordset(FootnoteTable); Walk(notes, name);
-         notes.MoveNext())
-        AddFootnote(footnotes, notes.Text("FootNoteName"), notes.Text("Description"));
+    for (const FootNoteRow& note : notes)
+        AddFootnote(footnotes, note.Name.Trimmed(), note.Description);
     return true;
 }
 

@@ -31,7 +31,7 @@ std::vector<std::string> ProposalFormatNames();
 bool SaveProposalFormat(std::string_view name, ReportOptionValues& values, FootnoteList footnotes);
 
 /// Puts a format into the options and its footnotes into the list. False when there is no format of
-/// the name; both are then left as they were.
+/// the name; both are then left as they were, and so they are after an error.
 bool LoadProposalFormat(std::string_view name, ReportOptionValues& values, FootnoteList footnotes);
 
 /// Deletes a format with its footnotes. False without the database.

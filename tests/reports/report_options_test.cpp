@@ -361,12 +361,16 @@ TEST_F(ProposalFormats, AMarkTooLargeForItselfIsAnOverflow) {
     rows.Set("CFMRate", std::int64_t{40000});  // kept as a Single, which has room for it
     rows.Update();
     formats.Close();
+    AddFootnote(list, "kept", "");
+    values.Mark("chkHeight") = 0;
     try {
         LoadProposalFormat("Ours", values, list);
         FAIL() << "no error";
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.Number(), 6);
     }
+    EXPECT_EQ(values.Mark("chkHeight"), 0);
+    EXPECT_EQ(list.Size(), 1U);
 }
 
 TEST_F(ProposalFormats, DeletingTakesItsFootnotesAlong) {

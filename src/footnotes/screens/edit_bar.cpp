@@ -17,7 +17,7 @@
 #include "platform/qt/icons.h"
 #include "platform/qt/rich_document.h"
 #include "platform/qt/rich_editor.h"
-#include "platform/text/runtime_error.h"
+#include "platform/qt/shown_errors.h"
 
 namespace tendo {
 
@@ -257,12 +257,12 @@ void EditBar::ImportFile(const std::string& file) {
             "Opening this file will overwrite this footnote.  Are you sure you want to do this?",
             Buttons::YesNo) != Answer::Yes)
         return;
-    try {
-        const Hourglass pointer;
-        editor_->ReplaceText(ReadFootnoteFile(file));
-    } catch (const RuntimeError& error) {
-        ShowMessage("Import Text File", error.Description(), MessageIcon::Warning);
-    }
+    RunShowingErrors(
+        [&] {
+            const Hourglass pointer;
+            editor_->ReplaceText(ReadFootnoteFile(file));
+        },
+        "Import Text File");
 }
 
 }  // namespace tendo

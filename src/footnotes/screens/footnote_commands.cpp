@@ -6,21 +6,11 @@
 
 #include "footnotes/footnote_library.h"
 #include "platform/qt/dialogs.h"
-#include "platform/text/runtime_error.h"
+#include "platform/qt/shown_errors.h"
 #include "platform/text/text.h"
 #include "project/project_records.h"
 
 namespace tendo {
-
-bool RunFootnoteCommand(const std::function<void()>& command) {
-    try {
-        command();
-        return true;
-    } catch (const RuntimeError& error) {
-        ShowMessage("TENDO", error.Description(), MessageIcon::Warning);
-        return false;
-    }
-}
 
 FootnoteList ListOf(FootnoteMode mode) {
     return mode == FootnoteMode::AccRpt ? AccessoryFootnotes(Project())
@@ -28,7 +18,7 @@ FootnoteList ListOf(FootnoteMode mode) {
 }
 
 bool AddFromLibrary(FootnoteMode mode, const std::string& name) {
-    return RunFootnoteCommand([&] {
+    return RunShowingErrors([&] {
         const std::string text = LibraryFootnoteText(name);
         ChangeFootnotes(mode, [&] { AddFootnote(ListOf(mode), name, text); });
     });

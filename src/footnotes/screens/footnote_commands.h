@@ -16,9 +16,6 @@ namespace tendo {
 
 /// What the footnote screens have in common.
 
-/// Runs a command; the database engine's error is shown and the lists stay as they are. False then.
-bool RunFootnoteCommand(const std::function<void()>& command);
-
 /// The project's list of a mode.
 FootnoteList ListOf(FootnoteMode mode);
 

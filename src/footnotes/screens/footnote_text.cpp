@@ -7,7 +7,9 @@
 #include "footnotes/screens/edit_bar.h"
 #include "footnotes/screens/footnote_commands.h"
 #include "platform/qt/dialogs.h"
+#include "platform/qt/form.h"
 #include "platform/qt/rich_editor.h"
+#include "platform/qt/shown_errors.h"
 
 namespace tendo {
 
@@ -30,6 +32,7 @@ FootnoteText::FootnoteText(const Names& names, QWidget* screen) : QWidget(screen
 }
 
 void FootnoteText::Show(const std::string& text) {
+    const Hourglass pointer;  // a text of megabytes takes seconds
     editor_->setReadOnly(!name_ && !row_);
     editor_->ShowText(text);
     bar_->ShowState();
@@ -66,7 +69,7 @@ bool FootnoteText::Store() {
 bool FootnoteText::StoreLibraryText() {
     bool found = false;
     const std::string text = editor_->Text();
-    if (!RunFootnoteCommand([&] { found = StoreLibraryFootnoteText(*name_, text); })) return false;
+    if (!RunShowingErrors([&] { found = StoreLibraryFootnoteText(*name_, text); })) return false;
     if (!found)
         ShowMessage("TENDO",
                     "The footnote \"" + *name_ +

@@ -12,6 +12,7 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
 #include "platform/qt/rich_editor.h"
+#include "platform/qt/shown_errors.h"
 #include "project/project_records.h"
 
 namespace tendo {
@@ -57,7 +58,7 @@ void frmFootnoteNew::AddButtons(QVBoxLayout* column) {
 }
 
 void frmFootnoteNew::AddDraft() {
-    RunFootnoteCommand([this] {
+    RunShowingErrors([this] {
         const StoredFootnoteName draft = AddLibraryFootnote("New Footnote", "");
         draft_ = draft.name;
         ShowMessages(draft.messages);
@@ -77,8 +78,7 @@ bool frmFootnoteNew::QueryUnload() {
 }
 
 void frmFootnoteNew::FormUnload() {
-    if (cancelled_ && !draft_.empty())
-        RunFootnoteCommand([this] { DeleteLibraryFootnote(draft_); });
+    if (cancelled_ && !draft_.empty()) RunShowingErrors([this] { DeleteLibraryFootnote(draft_); });
 }
 
 bool frmFootnoteNew::MayDiscard() {
@@ -92,7 +92,7 @@ bool frmFootnoteNew::MayDiscard() {
 bool frmFootnoteNew::StoreInLibrary() {
     const std::string name = name_->text().toStdString(), text = editor_->Text();
     StoredFootnoteName stored;
-    if (!RunFootnoteCommand([&] {
+    if (!RunShowingErrors([&] {
             stored = draft_.empty() ? AddLibraryFootnote(name, text)
                                     : FinishLibraryFootnote(draft_, name, text);
         }))
@@ -112,7 +112,7 @@ bool frmFootnoteNew::StoreInProject() {
     }
     const StoredFootnoteName permitted = PermittedFootnoteName(name_->text().toStdString());
     const std::string text = editor_->Text();
-    if (!RunFootnoteCommand([&] {
+    if (!RunShowingErrors([&] {
             ChangeFootnotes(mode_, [&] { AddFootnote(ListOf(mode_), permitted.name, text); });
         }))
         return false;
@@ -125,7 +125,7 @@ bool frmFootnoteNew::StoreInProject() {
 void frmFootnoteNew::OfferToLibrary(const std::string& name, const std::string& text) {
     if (Ask("TENDO", "Do you want to add this footnote to the database?", Buttons::YesNo) ==
         Answer::Yes)
-        RunFootnoteCommand([&] { ShowMessages(AddLibraryFootnote(name, text).messages); });
+        RunShowingErrors([&] { ShowMessages(AddLibraryFootnote(name, text).messages); });
 }
 
 void frmFootnoteNew::keyPressEvent(QKeyEvent* event) {

@@ -15,6 +15,7 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
 #include "platform/qt/rich_editor.h"
+#include "platform/qt/shown_errors.h"
 #include "project/project_records.h"
 
 namespace tendo {
@@ -110,7 +111,7 @@ void frmFootnotes::AddEditor(QVBoxLayout* column) {
 }
 
 void frmFootnotes::RefreshLibrary() {
-    RunFootnoteCommand([this] { FillFootnoteList(library_, LibraryFootnoteNames()); });
+    RunShowingErrors([this] { FillFootnoteList(library_, LibraryFootnoteNames()); });
 }
 
 /// The label above the editor tells which text stands in it.
@@ -161,7 +162,7 @@ bool frmFootnotes::QueryUnload() {
 void frmFootnotes::DBLFootNoteName_Click() {
     const std::string name = ChosenName(library_);
     if (!name.empty() && text_->Store()) {
-        RunFootnoteCommand([&] { text_->ShowLibraryText(name, LibraryFootnoteText(name)); });
+        RunShowingErrors([&] { text_->ShowLibraryText(name, LibraryFootnoteText(name)); });
     } else if (!name.empty()) {
         const QSignalBlocker quiet(library_);
         ChooseInLibrary(*text_->LibraryName());  // the editor keeps what it couldn't store
@@ -192,7 +193,7 @@ void frmFootnotes::btnDelete_Click() {
     if (name.empty() || Ask("TENDO", "Are you sure you want to delete this footnote?",
                             Buttons::YesNo) != Answer::Yes)
         return;
-    if (!RunFootnoteCommand([&] { DeleteLibraryFootnote(name); })) return;
+    if (!RunShowingErrors([&] { DeleteLibraryFootnote(name); })) return;
     const bool shown = text_->LibraryName().has_value();
     if (text_->LibraryName() == name) text_->ShowNothing();
     RefreshLibrary();
@@ -207,7 +208,7 @@ void frmFootnotes::btnRename_Click() {
     if (name.empty()) return;
     const std::string newName = AskFootnoteName(name);
     if (newName.empty()) return;
-    const bool renamed = RunFootnoteCommand([&] {
+    const bool renamed = RunShowingErrors([&] {
         if (LibraryHasFootnote(newName)) {
             ShowMessage("TENDO", "You are already using the name, " + newName +
                                      ".  Please select another name");

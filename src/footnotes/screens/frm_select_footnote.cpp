@@ -10,6 +10,7 @@
 #include "footnotes/screens/footnote_commands.h"
 #include "platform/qt/fields.h"
 #include "platform/qt/rich_editor.h"
+#include "platform/qt/shown_errors.h"
 
 namespace tendo {
 
@@ -34,7 +35,7 @@ frmSelectFootNoteFromDB::frmSelectFootNoteFromDB(FootnoteMode mode)
     grid->setColumnStretch(0, 2);
     grid->setColumnStretch(1, 3);
     grid->addLayout(MakeButtons(), 2, 0, 1, 2);
-    RunFootnoteCommand([this] { FillFootnoteList(library_, LibraryFootnoteNames()); });
+    RunShowingErrors([this] { FillFootnoteList(library_, LibraryFootnoteNames()); });
     connect(library_, &QListWidget::currentRowChanged, this, [this] { DBLFootNoteName_Click(); });
     connect(library_, &QListWidget::itemDoubleClicked, this, [this] { btnSelect_Click(); });
     library_->setCurrentRow(0);
@@ -60,7 +61,7 @@ QHBoxLayout* frmSelectFootNoteFromDB::MakeButtons() {
 
 void frmSelectFootNoteFromDB::DBLFootNoteName_Click() {
     const std::string name = ChosenName(library_);
-    if (!name.empty()) RunFootnoteCommand([&] { text_->ShowText(LibraryFootnoteText(name)); });
+    if (!name.empty()) RunShowingErrors([&] { text_->ShowText(LibraryFootnoteText(name)); });
 }
 
 void frmSelectFootNoteFromDB::btnSelect_Click() {

@@ -10,8 +10,8 @@
 #include "platform/files/paths.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/fields.h"
+#include "platform/qt/shown_errors.h"
 #include "platform/text/number_text.h"
-#include "platform/text/runtime_error.h"
 #include "platform/text/text.h"
 #include "project/program_state.h"
 #include "reports/proposal_formats.h"
@@ -22,18 +22,6 @@ namespace tendo {
 namespace {
 
 constexpr const char* Title = "TENDO";
-
-/// Runs a command; an error of the database or the profile is shown. False then.
-template <class Command>
-bool Guarded(const Command& command) {
-    try {
-        command();
-        return true;
-    } catch (const RuntimeError& error) {
-        ShowMessage(Title, error.Description(), MessageIcon::Warning);
-        return false;
-    }
-}
 
 std::int16_t NumberIn(const TextField* field, std::int16_t smallest, std::int16_t largest,
                       std::int16_t before) {
@@ -90,7 +78,7 @@ bool frmReportOptions::Save() {
     if (values_.Mark("chkClientComment") != Project().GPDClientFormat.ClientPrintComment ||
         values_.Mark("chkCompComment") != Project().GPDCompanyFormat.CompanyPrintComment)
         State().ProjectChanged = true;
-    return Guarded([this] { SaveReportOptions(values_, Project()); });
+    return RunShowingErrors([this] { SaveReportOptions(values_, Project()); });
 }
 
 std::string frmReportOptions::ChosenFormat() const {
@@ -102,7 +90,7 @@ void frmReportOptions::FillProposalFormats(const std::string& chosen) {
     cmbProposalFormats_->clear();
     cmbProposalFormats_->addItem(
         QString::fromUtf8(CustomFormat.data(), static_cast<qsizetype>(CustomFormat.size())));
-    Guarded([this] {
+    RunShowingErrors([this] {
         for (const std::string& name : ProposalFormatNames())
             cmbProposalFormats_->addItem(QString::fromStdString(name));
     });
@@ -115,7 +103,8 @@ void frmReportOptions::cmbProposalFormats_Change() {
     if (name == CustomFormat || !FileExists(ProposalFormatFile())) return;
     bool found = false;
     FootnotesWillChange(FootnoteMode::Selected);
-    if (!Guarded([&] { found = LoadProposalFormat(name, values_, ProposalFootnotes(Project())); }))
+    if (!RunShowingErrors(
+            [&] { found = LoadProposalFormat(name, values_, ProposalFootnotes(Project())); }))
         return;
     if (!found) {
         ShowMessage(Title,
@@ -131,7 +120,8 @@ void frmReportOptions::SaveFormat(const std::string& name) {
     StoreNumbers();
     CommitEdits();
     bool saved = false;
-    if (Guarded([&] { saved = SaveProposalFormat(name, values_, ProposalFootnotes(Project())); }) &&
+    if (RunShowingErrors(
+            [&] { saved = SaveProposalFormat(name, values_, ProposalFootnotes(Project())); }) &&
         saved)
         ShowMessage(Title, name + " successfully saved.");
 }
@@ -170,7 +160,7 @@ void frmReportOptions::btnDeleteFormat_Click() {
             Answer::Yes)
         return;
     bool deleted = false;
-    if (!Guarded([&] { deleted = DeleteProposalFormat(name); })) return;
+    if (!RunShowingErrors([&] { deleted = DeleteProposalFormat(name); })) return;
     if (deleted)
         ShowMessage(Title, name + " successfully deleted.  New proposal format is Custom Format.");
     FillProposalFormats(std::string(CustomFormat));

@@ -1,5 +1,6 @@
 #include <QDropEvent>
 #include <QMimeData>
+#include <memory>
 
 #include "footnotes/screens/footnote_commands.h"
 #include "footnotes/screens/footnote_text.h"
@@ -12,20 +13,29 @@
 namespace tendo {
 namespace {
 
+/// A drop reaches a widget only from a mouse; this list takes it from the test.
+class DroppedList : public ProjectFootnoteList {
+  public:
+    using ProjectFootnoteList::dropEvent;
+    using ProjectFootnoteList::ProjectFootnoteList;
+};
+
 class FootnoteLists : public RunningProgram {
   protected:
     void SetUp() override {
         RunningProgram::SetUp();
         Project() = {};
+        screen = std::make_unique<QWidget>();
         for (const char* name : {"a", "b", "c"})
             AddFootnote(ProposalFootnotes(Project()), name, std::string("text of ") + name);
-        text = new FootnoteText({"rtxtFootnoteText", "EditBand", "Text", {}}, &screen);
-        list = new ProjectFootnoteList(FootnoteMode::Selected, text, &screen);
+        text = new FootnoteText({"rtxtFootnoteText", "EditBand", "Text", {}}, screen.get());
+        list = new DroppedList(FootnoteMode::Selected, text, screen.get());
         list->resize(200, 200);
-        screen.show();
+        screen->show();
         State().ProjectChanged = false;
     }
     void TearDown() override {
+        screen.reset();
         Project() = {};
         State().ProjectChanged = false;
         RunningProgram::TearDown();
@@ -35,7 +45,7 @@ class FootnoteLists : public RunningProgram {
     void Drop(QPoint place) {
         const QMimeData data;
         QDropEvent drop(place, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(list->viewport(), &drop);
+        list->dropEvent(&drop);
         EXPECT_FALSE(drop.isAccepted());  // the view would take the row out
     }
     QPoint PlaceOf(int row) const { return list->visualItemRect(list->item(row)).center(); }
@@ -46,9 +56,9 @@ class FootnoteLists : public RunningProgram {
         return names;
     }
 
-    QWidget screen;
+    std::unique_ptr<QWidget> screen;
     FootnoteText* text = nullptr;
-    ProjectFootnoteList* list = nullptr;
+    DroppedList* list = nullptr;
 };
 
 TEST_F(FootnoteLists, TheMouseMovesAFootnoteOverSeveralOthers) {
