@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Makes the rich texts of tests/data/rtf with several programs from tests/data/rtf/sources, and beside each the plain text
 # that LibreOffice reads from it. Needs the packages libreoffice-writer, pandoc, abiword, latex2rtf, enscript, highlight, doxygen,
-# docbook-utils, docbook-xml, openjade, librtf-writer-perl. `make_rtf_corpus.sh read_by_office` only reads again.
+# docbook-utils, docbook-xml, openjade, librtf-writer-perl. `make_rtf_corpus.sh with_own_writer` makes those of our own writer (in own/).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 out=$PWD/tests/data/rtf
@@ -89,6 +89,13 @@ with_doxygen() {
 }
 
 with_perl() { perl "$sources/make_rtf_writer.pl" "$out"; }
+
+# Our own writer's texts; needs build/dev. The tests that write them fail until LibreOffice has read them.
+with_own_writer() {
+    mkdir -p "$out/own"
+    TENDO_WRITE_RTF=$out/own build/dev/bin/test_print --gtest_filter='*RtfOwnTexts*' >/dev/null || true
+    office "txt:Text (encoded):UTF8" --outdir "$out/own" "$out"/own/*.rtf
+}
 
 read_by_office() {
     office "txt:Text (encoded):UTF8" --outdir "$out" "$out"/*.rtf

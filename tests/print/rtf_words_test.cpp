@@ -133,6 +133,17 @@ TEST(RtfWords, FallbacksOfTwoBytesAreLeftOut) {
     EXPECT_EQ(Plain("{\\rtf1\\uc2\\u26085\\'93\\'fa\\u26412 ??\\uc1\\u8364\\{x}"), "日本€x");
 }
 
+TEST(RtfWords, PlainIsTwelvePointsInTheDefaultFont) {
+    const RichText text = Read(
+        "{\\rtf1\\deff1{\\fonttbl{\\f0 Arial;}{\\f1 Times New Roman;}}start \\f0\\fs40\\b big"
+        "\\plain  again}");
+    const std::vector<RichRun>& runs = text.paragraphs[0].runs;
+    ASSERT_EQ(runs.size(), 3u);
+    EXPECT_EQ(runs[0].font, (FontSpec{"Times New Roman", 240}));
+    EXPECT_EQ(runs[1].font, (FontSpec{"Arial", 400, true}));
+    EXPECT_EQ(runs[2].font, (FontSpec{"Times New Roman", 240}));
+}
+
 TEST(RtfWords, SignsOfTheSymbolFontsAreShownAsSuch) {
     EXPECT_EQ(
         Plain("{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1\\fcharset2 Symbol;}{\\f2 Wingdings;}}"

@@ -161,7 +161,8 @@ void LayoutSurface::WriteParagraph(std::string_view text) {
     flow_.EnsurePage();
     const RichRun format = TextFormat();
     const bool autoRich = Number(SurfaceOp::AutoRTF) != 0;
-    const RichText rich = autoRich ? ReadRichOrPlainText(text, format) : PlainAsRich(text, format);
+    const RichText rich =
+        autoRich ? ReadRichOrPlainText(text, format, &richHead_) : PlainAsRich(text, format);
     for (const RichParagraph& paragraph : rich.paragraphs)
         WriteRich(paragraph);
     if (autoRich && IsRichText(text)) flow_.y += SpaceBehindRichText;

@@ -75,6 +75,7 @@ class LayoutSurface : public PrintSurface {
     PageFlow flow_;
     std::array<int, static_cast<std::size_t>(SurfaceOp::Count)> numbers_{};
     std::array<std::string, static_cast<std::size_t>(SurfaceOp::Count)> texts_;
+    RichHead richHead_;  // of the rich text written last
     int measuredWidth_ = 0;
     bool documentOpen_ = false;
     std::optional<std::size_t> closingRule_;  // a shape of its page

@@ -21,6 +21,16 @@ bool IsEmpty(const std::vector<RichRun>& runs) {
                        [](const RichRun& run) { return run.text.empty(); });
 }
 
+/// Control characters and the places to break a word (soft hyphens, blanks of no width) are taken
+/// out: they would be printed.
+void DropUnseen(std::vector<RichRun>& runs) {
+    for (RichRun& run : runs) {
+        std::erase_if(run.text, [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\t'; });
+        for (const std::string_view unseen : {"\u00AD", "\u200B", "\uFEFF"})
+            if (Contains(run.text, unseen)) run.text = Replaced(run.text, unseen, "");
+    }
+}
+
 /// Line ends at the end of a cell say nothing; a tab within it would part it in two.
 void TidyCell(std::vector<RichRun>& runs) {
     for (RichRun& run : runs)
@@ -52,6 +62,7 @@ void RichBuilder::AddText(std::string_view text, const RichRun& format) {
 void RichBuilder::EndParagraph(const RichParagraph& format, const RichRun& base, bool inTable) {
     if (inTable) return AddText("\n", base);
     EndRow();
+    DropUnseen(runs_);
     RichParagraph paragraph = format;
     if (runs_.empty()) AddText("", base);
     paragraph.runs = std::move(runs_);
@@ -91,6 +102,7 @@ void RichBuilder::AddCellEdge(int right, bool boxed) {
 
 void RichBuilder::EndCell(const RichParagraph& format) {
     listText_ = false;
+    DropUnseen(runs_);
     TidyCell(runs_);
     if (rowCells_.size() < MostCells) {
         if (!rowCells_.empty()) {

@@ -19,12 +19,27 @@ bool HoldsBackslashWord(std::string_view text) {
     return false;
 }
 
-std::string_view WithoutLoneBraces(std::string_view text) {
-    const auto count = [&](char brace) { return std::count(text.begin(), text.end(), brace); };
+/// The text from its first brace on, without the blanks, line ends and byte order mark before it.
+std::string_view FromFirstBrace(std::string_view text) {
+    if (StartsWith(text, "\uFEFF")) text.remove_prefix(3);
+    const std::size_t start = text.find_first_not_of(" \t\r\n");
+    return start == std::string_view::npos ? text : text.substr(start);
+}
+
+/// Without the brace at its start and the closing ones that belong to none behind it.
+std::string WithoutLoneBraces(std::string_view text) {
     if (StartsWith(text, "{")) text.remove_prefix(1);
-    while (EndsWith(text, "}") && count('}') > count('{'))
-        text.remove_suffix(1);
-    return text;
+    std::string shown;
+    int open = 0;
+    for (const char character : text) {
+        if (character == '{') ++open;
+        if (character == '}' && open-- == 0) {
+            open = 0;
+            continue;
+        }
+        shown += character;
+    }
+    return shown;
 }
 
 }  // namespace
@@ -33,21 +48,22 @@ RichText PlainAsRich(std::string_view text, const RichRun& base) {
     RichRun run = base;
     run.text = Replaced(text, "\r\n", "\n");
     std::replace(run.text.begin(), run.text.end(), '\r', '\n');
+    std::erase_if(run.text, [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\t'; });
     RichText rich;
     rich.paragraphs.emplace_back().runs.push_back(std::move(run));
     return rich;
 }
 
 bool IsRichText(std::string_view text) {
-    return StartsWith(TrimmedLeft(text), "{") && HoldsBackslashWord(text);
+    return StartsWith(FromFirstBrace(text), "{") && HoldsBackslashWord(text);
 }
 
-RichText ReadRichText(std::string_view text, const RichRun& base) {
-    return RtfReader(text, base).Read();
+RichText ReadRichText(std::string_view text, const RichRun& base, RichHead* head) {
+    return RtfReader(FromFirstBrace(text), base, head).Read();
 }
 
-RichText ReadRichOrPlainText(std::string_view text, const RichRun& base) {
-    if (IsRichText(text)) return ReadRichText(text, base);
+RichText ReadRichOrPlainText(std::string_view text, const RichRun& base, RichHead* head) {
+    if (IsRichText(text)) return ReadRichText(text, base, head);
     return PlainAsRich(WithoutLoneBraces(text), base);
 }
 

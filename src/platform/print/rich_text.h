@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "platform/print/rich_head.h"
 #include "platform/print/rich_model.h"
 
 namespace tendo {
@@ -13,13 +14,15 @@ bool IsRichText(std::string_view text);
 /// ("{\rtf1") starts from twelve points, regular. Never fails: broken groups end with the text,
 /// groups deeper than 100 and numbers out of range are passed over, pictures and objects are left
 /// out.
-RichText ReadRichText(std::string_view text, const RichRun& base);
+/// `head` gives the head of the text ahead of a part without one, and takes that of a whole
+/// document.
+RichText ReadRichText(std::string_view text, const RichRun& base, RichHead* head = nullptr);
 
 /// A plain text as one paragraph in one format.
 RichText PlainAsRich(std::string_view text, const RichRun& base);
 
-/// A text that may be rich or plain. What remains of a plain text after the footnote markers were
-/// taken out of it can hold a brace without a partner at either end; it isn't shown.
-RichText ReadRichOrPlainText(std::string_view text, const RichRun& base);
+/// A text that may be rich or plain. What remains of a text after the footnote markers were taken
+/// out of it can hold braces without a partner; they aren't shown.
+RichText ReadRichOrPlainText(std::string_view text, const RichRun& base, RichHead* head = nullptr);
 
 }  // namespace tendo

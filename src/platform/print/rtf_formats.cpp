@@ -15,11 +15,16 @@ constexpr int WidestRow = 20000;
 constexpr int SingleSpacing = 240;  // of \sl, when it is a multiple
 constexpr int ScriptPercent = 62;   // size of raised and lowered signs
 constexpr int UsualRise = 6;        // half points
+constexpr int UsualSize = 240;      // 12 points
 
 using Meaning = RtfMeaning;
 
 int Held(int number, int least = 0) {
     return std::clamp(number, least, LargestIndent);
+}
+
+bool HasLetters(const RichHead::Font& font) {
+    return !font.symbol && !font.name.empty();
 }
 
 /// Words that switch something on or, with 0, off.
@@ -116,12 +121,11 @@ void RtfReader::ApplyCharacter(const RtfWord& word, const RtfToken& token) {
     }
 }
 
-/// Back to regular letters; the size stays, because most writers give it anew.
+/// Back to regular letters of 12 points in the default font.
 void RtfReader::SetPlain() {
     State& now = Now();
-    const int size = now.format.font.sizeTwips;
     now.format = base_;
-    now.format.font = {base_.font.family, size};
+    now.format.font = {base_.font.family, UsualSize};
     now.font = -1;
     now.rise = 0;
     now.script = Script::OnBaseLine;
@@ -237,25 +241,28 @@ void RtfReader::ApplyRow(const RtfWord& word, const RtfToken& token) {
     }
 }
 
-/// A font that isn't in the table keeps the font in use: behind a page break the table is lost.
+/// A font that isn't in the table keeps the font in use. Behind a page break the table is lost, but
+/// for what it says about bytes.
 void RtfReader::SelectFont(int number) {
-    const auto found = fonts_.find(number);
-    if (found == fonts_.end()) return;
+    const auto found = head_.fonts.find(number);
+    if (found == head_.fonts.end()) return;
     Now().font = number;
-    const Font& font = found->second;
-    if (!font.symbol && !font.name.empty())
-        Now().format.font.family = std::string(Trimmed(font.name));
+    if (wholeDocument_ && HasLetters(found->second))
+        Now().format.font.family = std::string(Trimmed(found->second.name));
 }
 
 const RtfReader::Font& RtfReader::FontInUse() const {
     static const Font none;
-    const auto found = fonts_.find(states_.back().font);
-    return found == fonts_.end() ? none : found->second;
+    const int number = states_.back().font;
+    const auto found = head_.fonts.find(number < 0 ? head_.defaultFont : number);
+    return found == head_.fonts.end() ? none : found->second;
 }
 
 RichRun RtfReader::Format() const {
     const State& now = states_.back();
     RichRun format = now.format;
+    if (const Font& font = FontInUse(); now.font < 0 && wholeDocument_ && HasLetters(font))
+        format.font.family = std::string(Trimmed(font.name));
     format.rise = now.rise;
     if (now.script == Script::OnBaseLine) return format;
     const int size = format.font.sizeTwips;

@@ -12,9 +12,9 @@ namespace {
 
 constexpr std::size_t DeepestGroup = 100;
 constexpr std::size_t MostTableEntries = 1000;
+constexpr int UsualSize = 240;  // of a whole document, 12 points
 constexpr std::size_t LongestFontName = 64;
 constexpr std::size_t LongestListText = 16;
-constexpr std::string_view SoftHyphen = "\u00AD", ZeroWidthBlank = "\u200B";
 
 using Meaning = RtfMeaning;
 
@@ -24,9 +24,11 @@ bool IsAmong(Meaning meaning, Meaning first, Meaning last) {
 
 }  // namespace
 
-RtfReader::RtfReader(std::string_view text, const RichRun& base) : scanner_(text), base_(base) {
+RtfReader::RtfReader(std::string_view text, const RichRun& base, RichHead* head)
+    : scanner_(text), base_(base), keptHead_(head) {
     base_.text.clear();
     states_.emplace_back().format = base_;
+    if (head) head_ = *head;
 }
 
 RichText RtfReader::Read() {
@@ -34,6 +36,7 @@ RichText RtfReader::Read() {
          token = scanner_.Next())
         Step(token);
     tooDeep_ = 0;
+    if (keptHead_ && wholeDocument_) *keptHead_ = head_;
     return builder_.Take(ParagraphFormat(), Format());
 }
 
@@ -186,10 +189,10 @@ bool RtfReader::ApplyListGroup(RtfMeaning meaning) {
 }
 
 void RtfReader::StartDocument() {
+    if (!wholeDocument_) head_ = {};
     wholeDocument_ = true;
-    FontSpec& font = Now().format.font;
-    Now().format = base_;
-    font = {base_.font.family, 240};
+    base_.font = {base_.font.family, UsualSize};
+    states_.front().format = Now().format = base_;
 }
 
 void RtfReader::ApplyHead(const RtfWord& word, const RtfToken& token) {
@@ -199,16 +202,20 @@ void RtfReader::ApplyHead(const RtfWord& word, const RtfToken& token) {
     };
     switch (word.meaning) {
         case Meaning::CharacterSet:
-            if (Now().destination != Destination::FontTable || fonts_.size() >= MostTableEntries)
+            if (Now().destination != Destination::FontTable ||
+                head_.fonts.size() >= MostTableEntries)
                 return;
-            fonts_[Now().font].codePage = CodePageOfCharacterSet(token.number);
-            fonts_[Now().font].symbol = token.number == 2;
+            head_.fonts[Now().font].codePage = CodePageOfCharacterSet(token.number);
+            head_.fonts[Now().font].symbol = token.number == 2;
+            return;
+        case Meaning::DefaultFont:
+            head_.defaultFont = token.number;
             return;
         case Meaning::CodePage:
-            if (token.number > 0) documentPage_ = token.number;
+            if (token.number > 0) head_.codePage = token.number;
             return;
         case Meaning::NamedCodePage:
-            documentPage_ = word.value;
+            head_.codePage = word.value;
             return;
         case Meaning::Red:
             return put(16);
@@ -240,11 +247,12 @@ void RtfReader::AddHeadByte(char character) {
         colorEntry_ = 0;
         return;
     }
-    if (character == ';' || (fonts_.size() >= MostTableEntries && !fonts_.contains(Now().font)))
+    if (character == ';' ||
+        (head_.fonts.size() >= MostTableEntries && !head_.fonts.contains(Now().font)))
         return;
-    std::string& name = fonts_[Now().font].name;
+    std::string& name = head_.fonts[Now().font].name;
     if (name.size() < LongestFontName && !(name.empty() && character == ' ')) name += character;
-    if (IsSymbolFont(name)) fonts_[Now().font].symbol = true;
+    if (IsSymbolFont(name)) head_.fonts[Now().font].symbol = true;
 }
 
 void RtfReader::AddListByte(char character) {
@@ -256,7 +264,7 @@ void RtfReader::AddListByte(char character) {
 
 /// In the pages of the Far East some bytes are the first half of a character.
 void RtfReader::AddEncoded(unsigned char byte) {
-    const int page = FontInUse().codePage == 0 ? documentPage_ : FontInUse().codePage;
+    const int page = FontInUse().codePage == 0 ? head_.codePage : FontInUse().codePage;
     const bool second = !leadByte_.empty();
     leadByte_ += static_cast<char>(byte);
     if (!second && IsLeadByte(byte, page)) return;
@@ -290,7 +298,7 @@ void RtfReader::AddUnicode(int number) {
 
 void RtfReader::AddText(std::string_view text) {
     leadByte_.clear();
-    if (!InText() || Now().hidden || text == SoftHyphen || text == ZeroWidthBlank) return;
+    if (!InText() || Now().hidden) return;
     if (Now().capitals)
         builder_.AddText(UpperCase(text), Format());
     else

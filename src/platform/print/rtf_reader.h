@@ -3,11 +3,11 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include "platform/print/rich_builder.h"
+#include "platform/print/rich_head.h"
 #include "platform/print/rtf_list.h"
 #include "platform/print/rtf_scanner.h"
 #include "platform/print/rtf_words.h"
@@ -17,7 +17,7 @@ namespace tendo {
 /// One reading of one rich text. Work is linear in the text's length; see `ReadRichText`.
 class RtfReader {
   public:
-    RtfReader(std::string_view text, const RichRun& base);
+    RtfReader(std::string_view text, const RichRun& base, RichHead* head);
     RichText Read();
 
   private:
@@ -32,11 +32,7 @@ class RtfReader {
         Skipped
     };
     enum class Script { OnBaseLine, Super, Sub };
-    struct Font {
-        std::string name;
-        int codePage = 0;  // 0 is the document's
-        bool symbol = false;
-    };
+    using Font = RichHead::Font;
     struct State {
         RichRun format;
         RichParagraph paragraph;  // its formats only
@@ -101,10 +97,10 @@ class RtfReader {
     bool ended_ = false;
     bool cellBoxed_ = false;
     char32_t highSurrogate_ = 0;
-    int documentPage_ = 1252;
     std::string leadByte_;  // the first half of a character of two bytes
     std::map<std::pair<int, std::string>, std::string> decoded_;
-    std::unordered_map<int, Font> fonts_;
+    RichHead head_;
+    RichHead* keptHead_;
     std::vector<Rgb> colors_;
     Rgb colorEntry_ = 0;
 };

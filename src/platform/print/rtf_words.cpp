@@ -54,6 +54,7 @@ constexpr Entry Entries[] = {
     {"rtf", {Meaning::Document}},
 
     {"fcharset", {Meaning::CharacterSet}},
+    {"deff", {Meaning::DefaultFont}},
     {"ansicpg", {Meaning::CodePage}},
     {"ansi", {Meaning::NamedCodePage, {}, 1252}},
     {"mac", {Meaning::NamedCodePage, {}, 10000}},

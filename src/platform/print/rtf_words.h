@@ -22,6 +22,7 @@ enum class RtfMeaning {
     Document,
     // Tables at the head, code pages.
     CharacterSet,
+    DefaultFont,
     CodePage,
     NamedCodePage,
     Red,
