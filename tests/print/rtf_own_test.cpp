@@ -67,9 +67,9 @@ RichText Table() {
     RichText text;
     for (const auto* line : {"Trade\tRegular\tOvertime", "Helper\t$38.00\t$57.00\nnet"}) {
         RichParagraph& row = text.paragraphs.emplace_back();
-        row.cells = {{4000, RichAlign::Left, true},
-                     {6000, RichAlign::Right, true},
-                     {8000, RichAlign::Right, true}};
+        row.cells = {{4000, RichAlign::Left, cell_side::All},
+                     {6000, RichAlign::Right, cell_side::All},
+                     {8000, RichAlign::Right, cell_side::All}};
         row.runs = {Run(line)};
     }
     text.paragraphs.emplace_back().runs = {Run("Rates hold through December.")};

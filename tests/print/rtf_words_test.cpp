@@ -66,10 +66,26 @@ TEST(RtfWords, ARowOfATableKeepsItsCells) {
         " net\\par\\cell\\row\\pard after\\par}");
     ASSERT_EQ(text.paragraphs.size(), 2u);
     EXPECT_EQ(PlainTextOf(text), "Helper x\t$38.00\nnet\nafter");
-    const std::vector<RichCell> cells = {{3000, RichAlign::Inherit, true},
-                                         {5000, RichAlign::Right, false}};
+    const std::vector<RichCell> cells = {
+        {3000, RichAlign::Inherit, cell_side::Top | cell_side::Bottom},
+        {5000, RichAlign::Right, 0}};
     EXPECT_EQ(text.paragraphs[0].cells, cells);
     EXPECT_TRUE(text.paragraphs[1].cells.empty());
+}
+
+TEST(RtfWords, ACellHasTheAlignmentOfItsLastParagraph) {
+    const RichText text = Read(
+        "{\\rtf1\\trowd\\cellx3000\\cellx5000{{\\pard\\intbl\\qr $38.00\\par}\\cell}"
+        "{{\\pard\\intbl\\qc a\\par}{\\pard\\intbl b\\par}\\cell}\\row}");
+    EXPECT_EQ(text.paragraphs[0].cells[0].align, RichAlign::Right);
+    EXPECT_EQ(text.paragraphs[0].cells[1].align, RichAlign::Inherit);
+}
+
+TEST(RtfWords, TheMarkOfAListIsAsLargeAsItsText) {
+    const RichText text =
+        Read("{\\rtf1{\\listtext\\pard\\plain 1.\\tab}\\ls1\\fs18 furnace\\b  gas\\par}");
+    for (const RichRun& run : text.paragraphs[0].runs)
+        EXPECT_EQ(run.font.sizeTwips, 180) << run.text;
 }
 
 TEST(RtfWords, ATableCutOffInARowKeepsTheCellsSoFar) {

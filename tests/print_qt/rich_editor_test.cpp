@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QUrl>
 
@@ -46,6 +47,41 @@ TEST(RichDocument, FormatsSurviveTheEditor) {
     EXPECT_EQ(red.font, (FontSpec{"Times New Roman", 210, false, true, true, true}));
     EXPECT_EQ(red.color, 0xFF0000u);
     EXPECT_EQ(second.runs[0].color, 0u);
+}
+
+TEST(RichDocument, TablesTabsSpacingAndRaisedSignsSurviveTheEditor) {
+    const std::string rich =
+        "{\\rtf1\\tqc\\tx2880\\tldot\\tqr\\tx8640 a\\tab b\\tab c\\par"
+        "\\pard\\pagebb\\sl360\\slmult1 m{\\super 2}\\par\\pard\\sl300 d\\par\\pard\\sl-315 e\\par"
+        "\\trowd\\clbrdrt\\brdrs\\cellx3000\\cellx6000\\pard\\intbl f\\cell\\pard\\intbl\\qr "
+        "g\\cell"
+        "\\row}";
+    const RichText read = ReadRichText(rich, {});
+    const RichText text = RoundTrip(read);
+    ASSERT_EQ(text.paragraphs.size(), 5u);
+    EXPECT_EQ(text.paragraphs[0].tabs, read.paragraphs[0].tabs);
+    EXPECT_TRUE(text.paragraphs[1].pageBefore);
+    EXPECT_EQ(text.paragraphs[1].lineSpacing, 150);
+    EXPECT_EQ(text.paragraphs[1].runs[1].rise, 80);
+    EXPECT_EQ(text.paragraphs[1].runs[1].font.sizeTwips, 140);
+    EXPECT_EQ(text.paragraphs[2].leastLine, 300);
+    EXPECT_EQ(text.paragraphs[3].exactLine, 315);
+    const std::vector<RichCell> cells = {{3000, RichAlign::Inherit, cell_side::Top},
+                                         {6000, RichAlign::Right, 0}};
+    EXPECT_EQ(text.paragraphs[4].cells, cells);
+    EXPECT_TRUE(text.paragraphs[4].tabs.empty());
+}
+
+TEST(RichDocument, ARowWithAnotherNumberOfTabsBecomesAParagraph) {
+    QTextDocument document;
+    ShowRichText(
+        document,
+        ReadRichText("{\\rtf1\\trowd\\cellx3000\\cellx6000\\intbl f\\cell g\\cell\\row}", {}));
+    EXPECT_EQ(document.toPlainText(), "f\tg");
+    QTextCursor(&document).insertText("\t");
+    const RichText text = RichTextOf(document);
+    EXPECT_TRUE(text.paragraphs[0].cells.empty());
+    EXPECT_EQ(text.paragraphs[0].tabs, (std::vector<TabStop>{{3000}, {6000}}));
 }
 
 TEST(RichDocument, ABulletIsAPointOfAListInTheEditor) {

@@ -111,7 +111,7 @@ class LineBreaker {
             StartTab(run);
         } else if (character == '\n') {
             EndLine();
-            StartLine(shape_.firstIndent);
+            StartLine(shape_.restIndent);
         }
     }
 

@@ -31,6 +31,15 @@ void DropUnseen(std::vector<RichRun>& runs) {
     }
 }
 
+/// The mark of a list is as large as its text; many writers give it no size.
+void SizeListMark(std::vector<RichRun>& runs) {
+    const auto holdsTab = [](const RichRun& run) { return Contains(run.text, "\t"); };
+    const auto tab = std::find_if(runs.begin(), runs.end(), holdsTab);
+    if (tab == runs.end() || tab + 1 == runs.end()) return;
+    for (auto run = runs.begin(); run <= tab; ++run)
+        run->font.sizeTwips = (tab + 1)->font.sizeTwips;
+}
+
 /// Line ends at the end of a cell say nothing; a tab within it would part it in two.
 void TidyCell(std::vector<RichRun>& runs) {
     for (RichRun& run : runs)
@@ -60,9 +69,13 @@ void RichBuilder::AddText(std::string_view text, const RichRun& format) {
 }
 
 void RichBuilder::EndParagraph(const RichParagraph& format, const RichRun& base, bool inTable) {
-    if (inTable) return AddText("\n", base);
+    if (inTable) {
+        cellAlign_ = format.align;
+        return AddText("\n", base);
+    }
     EndRow();
     DropUnseen(runs_);
+    if (listText_) SizeListMark(runs_);
     RichParagraph paragraph = format;
     if (runs_.empty()) AddText("", base);
     paragraph.runs = std::move(runs_);
@@ -95,13 +108,15 @@ void RichBuilder::ResetRow() {
     rowLeft_ = 0;
 }
 
-void RichBuilder::AddCellEdge(int right, bool boxed) {
+void RichBuilder::AddCellEdge(int right, unsigned lines) {
     if (edges_.size() < MostCells)
-        edges_.push_back({std::max(right - rowLeft_, 0), RichAlign::Inherit, boxed});
+        edges_.push_back({std::max(right - rowLeft_, 0), RichAlign::Inherit, lines});
 }
 
 void RichBuilder::EndCell(const RichParagraph& format) {
     listText_ = false;
+    const bool ended = !runs_.empty() && EndsWith(runs_.back().text, "\n");
+    const RichAlign align = ended ? cellAlign_ : format.align;
     DropUnseen(runs_);
     TidyCell(runs_);
     if (rowCells_.size() < MostCells) {
@@ -111,7 +126,7 @@ void RichBuilder::EndCell(const RichParagraph& format) {
         } else if (runs_.empty()) {
             rowRuns_.emplace_back();
         }
-        rowCells_.push_back({0, format.align, false});
+        rowCells_.push_back({0, align, 0});
     }
     Append(rowRuns_, std::move(runs_));
 }
@@ -129,7 +144,7 @@ void RichBuilder::EndRow() {
     }
     for (std::size_t i = 0; i < std::min(edges_.size(), rowCells_.size()); ++i) {
         rowCells_[i].right = edges_[i].right;
-        rowCells_[i].boxed = edges_[i].boxed;
+        rowCells_[i].lines = edges_[i].lines;
     }
     row.leftIndent = std::max(rowLeft_, 0);
     row.cells = std::move(rowCells_);

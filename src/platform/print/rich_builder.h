@@ -26,7 +26,7 @@ class RichBuilder {
     void ResetRow();
     void SetRowLeft(int twips) { rowLeft_ = twips; }
     /// The edge of the next cell of the rows that follow.
-    void AddCellEdge(int right, bool boxed);
+    void AddCellEdge(int right, unsigned lines);
     void EndCell(const RichParagraph& format);
     void EndRow();
 
@@ -52,6 +52,7 @@ class RichBuilder {
     std::vector<RichCell> rowCells_, edges_;
     std::vector<Part> outer_;
     int rowLeft_ = 0;
+    RichAlign cellAlign_ = RichAlign::Inherit;  // of the last paragraph ended in the cell begun
     int noteCount_ = 0;
     bool listText_ = false;
     bool pageNext_ = false;

@@ -19,11 +19,16 @@ struct RichRun {
 
 enum class RichAlign { Inherit, Left, Center, Right };
 
+/// Sides of a cell, to be added up.
+namespace cell_side {
+inline constexpr unsigned Left = 1, Top = 2, Right = 4, Bottom = 8, All = 15;
+}
+
 /// A cell of a table's row; `right` is its edge in twips from the text's left edge, 0 when unknown.
 struct RichCell {
     int right = 0;
     RichAlign align = RichAlign::Inherit;
-    bool boxed = false;  // drawn with lines around it
+    unsigned lines = 0;  // sides drawn with a line
     friend bool operator==(const RichCell&, const RichCell&) = default;
 };
 

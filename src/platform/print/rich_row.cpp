@@ -12,12 +12,13 @@ namespace {
 constexpr int CellMargin = 108;  // 0.075 inches on each side, as word processors have it
 constexpr int NarrowestCell = 360;
 constexpr int CellPen = 10;
+constexpr Rgb LineColor = 0;
 
 struct Cell {
     int left = 0, right = 0;
-    std::vector<TextLine> lines;
+    std::vector<TextLine> text;
     RichAlign align = RichAlign::Left;
-    bool boxed = false;
+    unsigned sides = 0;
 };
 
 /// The right edges of the cells within `width`: as they were given, else of equal widths.
@@ -70,9 +71,9 @@ std::vector<Cell> LaidOut(FontTable& fonts, const RichParagraph& row, const Rich
         cell.left = place.left + indent + (i == 0 ? 0 : edges[i - 1]);
         cell.right = place.left + indent + edges[i];
         cell.align = row.cells[i].align;
-        cell.boxed = row.cells[i].boxed;
+        cell.sides = row.cells[i].lines;
         const int width = std::max(cell.right - cell.left - 2 * CellMargin, NarrowestCell / 2);
-        cell.lines = BreakLines(fonts, runs[i], {width, 0, 0, {}});
+        cell.text = BreakLines(fonts, runs[i], {width, 0, 0, {}});
         cells.push_back(std::move(cell));
     }
     return cells;
@@ -84,7 +85,7 @@ int LineHeight(const TextLine& line, const RichRowPlace& place) {
 
 int Height(const Cell& cell, const RichRowPlace& place) {
     int height = 0;
-    for (const TextLine& line : cell.lines)
+    for (const TextLine& line : cell.text)
         height += LineHeight(line, place);
     return height;
 }
@@ -97,17 +98,29 @@ void WriteCellLine(PageFlow& flow, const Cell& cell, const TextLine& line, int t
     flow.AddLine(line, std::max<double>(left, cell.left), top);
 }
 
+void DrawSides(Page& page, const Cell& cell, int top, int bottom) {
+    if (cell.sides == cell_side::All) {
+        page.shapes.push_back(BoxItem{cell.left, top, cell.right, bottom, {}, LineColor, CellPen});
+        return;
+    }
+    const auto draw = [&](unsigned side, int x1, int y1, int x2, int y2) {
+        if (cell.sides & side) page.shapes.push_back(LineItem{x1, y1, x2, y2, LineColor, CellPen});
+    };
+    draw(cell_side::Left, cell.left, top, cell.left, bottom);
+    draw(cell_side::Top, cell.left, top, cell.right, top);
+    draw(cell_side::Right, cell.right, top, cell.right, bottom);
+    draw(cell_side::Bottom, cell.left, bottom, cell.right, bottom);
+}
+
 void WriteTogether(PageFlow& flow, const std::vector<Cell>& cells, const RichRowPlace& place,
                    int height) {
     for (const Cell& cell : cells) {
         int top = flow.y;
-        for (const TextLine& line : cell.lines) {
+        for (const TextLine& line : cell.text) {
             WriteCellLine(flow, cell, line, top);
             top += LineHeight(line, place);
         }
-        if (cell.boxed)
-            flow.Current().shapes.push_back(
-                BoxItem{cell.left, flow.y, cell.right, flow.y + height, {}, Rgb{0}, CellPen});
+        DrawSides(flow.Current(), cell, flow.y, flow.y + height);
     }
     flow.y += height;
 }
@@ -115,7 +128,7 @@ void WriteTogether(PageFlow& flow, const std::vector<Cell>& cells, const RichRow
 /// Cell beneath cell, line by line: a row higher than a page is no table that a reader can follow.
 void WriteApart(PageFlow& flow, const std::vector<Cell>& cells, const RichRowPlace& place) {
     for (const Cell& cell : cells)
-        for (const TextLine& line : cell.lines) {
+        for (const TextLine& line : cell.text) {
             const int height = LineHeight(line, place);
             if (!flow.Fits(height)) flow.BreakPage();
             WriteCellLine(flow, cell, line, flow.y);

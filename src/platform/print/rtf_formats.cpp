@@ -211,23 +211,23 @@ void RtfReader::ApplyRow(const RtfWord& word, const RtfToken& token) {
             Now().inTable = true;
             return;
         case Meaning::RowDefaults:
-            cellBoxed_ = false;
+            cellSide_ = cellLines_ = 0;
             return builder_.ResetRow();
         case Meaning::RowLeft:
             return builder_.SetRowLeft(Held(token.number, -LargestIndent));
         case Meaning::CellBorder:
-            Now().cellBorder = true;
+            cellSide_ = static_cast<unsigned>(word.value);
             return;
         case Meaning::BorderStyle:
-            cellBoxed_ = cellBoxed_ || Now().cellBorder;
+            cellLines_ |= cellSide_;
             return;
         case Meaning::NoBorder:
-            Now().cellBorder = false;
+            cellSide_ = 0;
             return;
         case Meaning::CellRight:
-            Now().cellBorder = false;
+            cellSide_ = 0;
             return builder_.AddCellEdge(std::clamp(token.number, 0, WidestRow),
-                                        std::exchange(cellBoxed_, false));
+                                        std::exchange(cellLines_, 0));
         case Meaning::Cell:
             return builder_.EndCell(ParagraphFormat());
         case Meaning::Row:

@@ -47,8 +47,7 @@ class RtfReader {
         TabStop tab;
         RtfListStyle list;
         std::size_t listOwner = 0;  // the state that the style of a list holds for
-        bool inTable = false, hidden = false, capitals = false, cellBorder = false, note = false,
-             nestedProps = false;
+        bool inTable = false, hidden = false, capitals = false, note = false, nestedProps = false;
     };
 
     void Step(const RtfToken& token);
@@ -95,7 +94,7 @@ class RtfReader {
     bool starred_ = false;
     bool wholeDocument_ = false;
     bool ended_ = false;
-    bool cellBoxed_ = false;
+    unsigned cellSide_ = 0, cellLines_ = 0;  // of the cell being defined
     char32_t highSurrogate_ = 0;
     std::string leadByte_;  // the first half of a character of two bytes
     std::map<std::pair<int, std::string>, std::string> decoded_;

@@ -4,6 +4,7 @@
 #include <array>
 #include <unordered_map>
 
+#include "platform/print/rich_model.h"
 #include "platform/print/rtf_list.h"
 #include "platform/print/tab_stop.h"
 
@@ -146,10 +147,10 @@ constexpr Entry Entries[] = {
     {"intbl", {Meaning::InTable}},
     {"trowd", {Meaning::RowDefaults}},
     {"trleft", {Meaning::RowLeft}},
-    {"clbrdrl", {Meaning::CellBorder}},
-    {"clbrdrt", {Meaning::CellBorder}},
-    {"clbrdrr", {Meaning::CellBorder}},
-    {"clbrdrb", {Meaning::CellBorder}},
+    {"clbrdrl", {Meaning::CellBorder, {}, cell_side::Left}},
+    {"clbrdrt", {Meaning::CellBorder, {}, cell_side::Top}},
+    {"clbrdrr", {Meaning::CellBorder, {}, cell_side::Right}},
+    {"clbrdrb", {Meaning::CellBorder, {}, cell_side::Bottom}},
     {"brdrs", {Meaning::BorderStyle}},
     {"brdrth", {Meaning::BorderStyle}},
     {"brdrdb", {Meaning::BorderStyle}},

@@ -56,6 +56,11 @@ constexpr std::string_view Alignments[] = {"", "\\ql", "\\qc", "\\qr"};
 constexpr std::string_view TabKinds[] = {"", "\\tqc", "\\tqr", "\\tqdec"};
 constexpr std::string_view SymbolFont = "Symbol";
 
+constexpr std::pair<unsigned, std::string_view> CellBorders[] = {{cell_side::Top, "\\clbrdrt"},
+                                                                 {cell_side::Left, "\\clbrdrl"},
+                                                                 {cell_side::Bottom, "\\clbrdrb"},
+                                                                 {cell_side::Right, "\\clbrdrr"}};
+
 std::string LeaderWord(char leader) {
     if (leader == '.') return "\\tldot";
     if (leader == '-') return "\\tlhyph";
@@ -149,9 +154,8 @@ class RtfWriter {
     void AddRow(const RichParagraph& row) {
         body_ += "\\trowd\\trgaph108" + Word("trleft", row.leftIndent);
         for (const RichCell& cell : row.cells) {
-            if (cell.boxed)
-                for (const char side : {'t', 'l', 'b', 'r'})
-                    body_ += std::string("\\clbrdr") + side + "\\brdrs\\brdrw10";
+            for (const auto& [side, word] : CellBorders)
+                if (cell.lines & side) body_ += std::string(word) + "\\brdrs\\brdrw10";
             body_ += Word("cellx", row.leftIndent + cell.right);
         }
         auto cell = row.cells.begin();

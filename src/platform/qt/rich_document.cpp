@@ -81,7 +81,7 @@ std::vector<TabStop> TabsOf(const QTextBlockFormat& format) {
 void SetCells(QTextBlockFormat& format, const std::vector<RichCell>& cells) {
     QVariantList kept;
     for (const RichCell& cell : cells)
-        kept << cell.right << static_cast<int>(cell.align) << cell.boxed;
+        kept << cell.right << static_cast<int>(cell.align) << cell.lines;
     if (!kept.isEmpty()) format.setProperty(KeptCells, kept);
 }
 
@@ -91,7 +91,7 @@ std::vector<RichCell> CellsOf(const QTextBlock& block) {
     std::vector<RichCell> cells;
     for (qsizetype i = 0; i + 2 < kept.size(); i += 3)
         cells.push_back(
-            {kept[i].toInt(), static_cast<RichAlign>(kept[i + 1].toInt()), kept[i + 2].toBool()});
+            {kept[i].toInt(), static_cast<RichAlign>(kept[i + 1].toInt()), kept[i + 2].toUInt()});
     const auto tabs = static_cast<std::size_t>(block.text().count(u'\t'));
     return cells.size() == tabs + 1 ? cells : std::vector<RichCell>();
 }
