@@ -53,6 +53,10 @@ TEST_F(LineBreaking, AWordWiderThanTheLineIsBrokenBehindItsHyphens) {
     EXPECT_EQ(Break("a-b ccc", 500), (Lines{"a-b", "ccc"}));  // a word that fits isn't touched
 }
 
+TEST_F(LineBreaking, ACommaOfANumberPartsNothing) {
+    EXPECT_EQ(Break("1,234,567 a,b,c", 400), (Lines{"1,23", "4,56", "7", "a,b,", "c"}));
+}
+
 TEST_F(LineBreaking, AnAccentStaysWithItsLetter) {
     // e and U+0301: the fixed font counts two characters.
     EXPECT_EQ(Break("e\u0301e\u0301", 200), (Lines{"e\u0301", "e\u0301"}));

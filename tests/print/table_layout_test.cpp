@@ -221,6 +221,39 @@ TEST_F(Tables, AHeaderOnADarkShadeIsWhite) {
     EXPECT_EQ(page.texts[2].color, Rgb{0x333333});
 }
 
+TEST_F(Tables, AFigureTooWideForItsCellIsSetSmallerWithItsRow) {
+    // 1330 less twice 65 is 1200, room for 12 characters at 10 points. "$1,234,567.90" has 13: at
+    // 9 points (180 twips, 90 a character) it takes 1170; at 9.5 it would take 1235.
+    surface.AddTable("<3000|>1330", "", "Total|$1,234,567.90;List|$1.00;");
+    const Page& page = FinishOnePage();
+    const auto size = [&](std::size_t i) {
+        return surface.Result().fonts[static_cast<std::size_t>(page.texts[i].font)].sizeTwips;
+    };
+    ASSERT_EQ(page.texts.size(), 4U);
+    EXPECT_EQ(size(0), 180);
+    EXPECT_EQ(size(1), 180);
+    EXPECT_EQ(size(2), 200);
+    EXPECT_EQ(surface.CurrentY(), 720 + 2 * RowHeight);
+    EXPECT_EQ(page.texts[0].y, 720 + 35 + 10 + 144);  // half of 20 above; an ascent of 144
+}
+
+TEST_F(Tables, AWordFarTooWideForItsCellIsBrokenInItsOwnSize) {
+    surface.AddTable("<1330", "", "abcdefghijklmnopqrstuvwxyz;");
+    const Page& page = FinishOnePage();
+    ASSERT_EQ(page.texts.size(), 3U);
+    EXPECT_EQ(page.texts[0].text, "abcdefghijkl");
+    EXPECT_EQ(surface.Result().fonts[static_cast<std::size_t>(page.texts[0].font)].sizeTwips, 200);
+}
+
+TEST_F(Tables, AHeadingKeepsItsLineByASmallerSize) {
+    // "SYSTEM #5" has 9 characters in room for 8: at 8.5 points (85 a character) 765 of 800.
+    surface.AddTable("<930|<2000", "SYSTEM #5|Wide", "a|b;", 0xFF);
+    const Page& page = FinishOnePage();
+    EXPECT_EQ(page.texts[0].text, "SYSTEM #5");
+    EXPECT_EQ(surface.Result().fonts[static_cast<std::size_t>(page.texts[0].font)].sizeTwips, 170);
+    EXPECT_EQ(std::get<BoxItem>(page.shapes.at(0)).bottom, 720 + RowHeight);
+}
+
 TEST_F(Tables, ATableWiderThanThePageIsNarrowedToIt) {
     surface.AddTable("<21500|>10750", "Head|Head", "a|b;", 0xFF);
     const Page& page = FinishOnePage();

@@ -53,9 +53,17 @@ std::size_t LetterBytes(std::string_view text) {
     return bytes;
 }
 
+/// A comma within a number parts nothing.
+bool PartsNumber(std::string_view text, std::size_t at) {
+    return text[at] == ',' && at + 1 < text.size() && text[at + 1] >= '0' && text[at + 1] <= '9';
+}
+
 /// Bytes up to and with the first sign behind which a long word may be broken.
 std::size_t SyllableBytes(std::string_view text) {
-    const std::size_t sign = text.find_first_of("-/,_@", 1);
+    constexpr const char* Signs = "-/,_@";
+    std::size_t sign = text.find_first_of(Signs, 1);
+    while (sign != std::string_view::npos && PartsNumber(text, sign))
+        sign = text.find_first_of(Signs, sign + 1);
     return sign == std::string_view::npos ? text.size() : sign + 1;
 }
 
@@ -209,10 +217,10 @@ class LineBreaker {
             ForEachPart(piece, SyllableBytes, [this](const Piece& syllable) {
                 if (syllable.width <=
                     shape_.width - std::max(shape_.restIndent, shape_.firstIndent))
-                    PlacePart(syllable);
+                    PlacePart(syllable, false);
                 else
                     ForEachPart(syllable, LetterBytes,
-                                [this](const Piece& letter) { PlacePart(letter); });
+                                [this](const Piece& letter) { PlacePart(letter, true); });
             });
     }
 
@@ -228,8 +236,9 @@ class LineBreaker {
         }
     }
 
-    void PlacePart(const Piece& part) {
+    void PlacePart(const Piece& part, bool letter) {
         if (IsStarted() && x_ + part.width > shape_.width) {
+            line_.torn = letter;
             EndLine();
             StartLine(shape_.restIndent);
         }

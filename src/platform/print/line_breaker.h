@@ -32,11 +32,13 @@ struct LineFragment {
     int rise = 0;
 };
 
-/// A broken line. `width` without blanks at its end; heights in twips at single spacing.
+/// A broken line. `width` without blanks at its end; heights in twips at single spacing. A torn one
+/// ends between two letters of a word.
 struct TextLine {
     std::vector<LineFragment> fragments;
     double width = 0;
     int ascent = 0, height = 0;
+    bool torn = false;
 };
 
 /// Where lines may run, in twips. The indents count within `width`.

@@ -11,6 +11,7 @@ namespace tendo {
 namespace {
 
 constexpr int RowPadding = 35;  // above and below the lines of a cell
+constexpr int SizeStep = 10;    // half a point
 constexpr int WidestTable =
     page_geometry::Right - page_geometry::Left - 2 * page_geometry::TableInset;
 constexpr int ComparisonBorder = 3, RuledBorder = 2, GridBorder = 7;
@@ -30,14 +31,13 @@ class TableWriter {
         : flow_(flow), style_(style), columns_(ParseTableFormat(format)) {
         const int single = flow.Fonts().Metrics(style.font).lineHeight;
         lineHeight_ = std::max(SpacedHeight(single, style.lineSpacing), 1);
-        halfLeading_ = (lineHeight_ - single) / 2;
         NarrowToPage();
     }
 
     void Write(std::string_view header, std::string_view body) {
         flow_.EnsurePage();
         if (!header.empty()) {
-            header_ = LayOut(header, style_.boldFont, style_.headerColor);
+            header_ = LayOut(header, style_.boldFont, style_.headerColor, true);
             header_->header = true;
         }
         const std::vector<std::string_view> rows = SplitRows(body);
@@ -73,7 +73,44 @@ class TableWriter {
         return LayOut(text, IsTotal(text) ? style_.boldFont : style_.font, style_.color);
     }
 
-    RowLayout LayOut(std::string_view text, int font, Rgb color) {
+    /// A row with a word or a figure too wide for its cell is set a little smaller, and so is a
+    /// header that would need more lines; but only where that is of use.
+    RowLayout LayOut(std::string_view text, int font, Rgb color, bool header = false) {
+        const RowLayout row = Break(text, font, color);
+        const auto isCrowded = [&](const RowLayout& tried) {
+            return IsTorn(tried) || (header && tried.lines > LinesMeant(text));
+        };
+        if (!isCrowded(row)) return row;
+        FontSpec spec = flow_.Fonts().Spec(font);
+        const int smallest = spec.sizeTwips * 3 / 4;
+        const auto smaller = [&](int twips) {
+            spec.sizeTwips = twips;
+            return Break(text, flow_.Fonts().Id(spec), color);
+        };
+        if (isCrowded(smaller(smallest))) return row;
+        for (int size = flow_.Fonts().Spec(font).sizeTwips - SizeStep; size > smallest;
+             size -= SizeStep)
+            if (RowLayout tried = smaller(size); !isCrowded(tried)) return tried;
+        return smaller(smallest);
+    }
+
+    static bool IsTorn(const RowLayout& row) {
+        for (const std::vector<TextLine>& cell : row.cells)
+            for (const TextLine& line : cell)
+                if (line.torn) return true;
+        return false;
+    }
+
+    /// The lines of a header's highest cell as it was written.
+    std::size_t LinesMeant(std::string_view header) const {
+        std::size_t most = 1;
+        for (const std::string_view cell : SplitCells(header, columns_.size()))
+            most = std::max<std::size_t>(
+                most, 1 + static_cast<std::size_t>(std::count(cell.begin(), cell.end(), '\n')));
+        return most;
+    }
+
+    RowLayout Break(std::string_view text, int font, Rgb color) {
         RowLayout row;
         row.blank = text.find_first_not_of("| \r\n") == std::string_view::npos;
         const std::vector<std::string_view> cells = SplitCells(text, columns_.size());
@@ -178,11 +215,12 @@ class TableWriter {
     void PlaceCell(const RowLayout& row, std::size_t column, std::size_t from, std::size_t count,
                    int left) {
         const std::vector<TextLine>& lines = row.cells[column];
-        int top = flow_.y + RowPadding + halfLeading_;
+        int top = flow_.y + RowPadding;
         // Headings of several lines stand on one base line.
         if (row.header) top += static_cast<int>(row.lines - lines.size()) * lineHeight_;
         for (std::size_t i = from; i < std::min(from + count, lines.size()); ++i) {
-            flow_.AddLine(lines[i], LineLeft(lines[i], columns_[column], left), top);
+            const int leading = (lineHeight_ - lines[i].height) / 2;
+            flow_.AddLine(lines[i], LineLeft(lines[i], columns_[column], left), top + leading);
             top += lineHeight_;
         }
     }
@@ -215,7 +253,7 @@ class TableWriter {
     const TableStyle& style_;
     std::vector<TableColumn> columns_;
     std::optional<RowLayout> header_;
-    int lineHeight_ = 0, halfLeading_ = 0;  // the room above the text of a widely spaced line
+    int lineHeight_ = 0;
     int tableWidth_ = 0;
     int spaceBelowHeader_ = 0;
     bool sectionOpen_ = false;
