@@ -229,8 +229,10 @@ void ReportTest::BannerOption(const std::string& key, const std::string& value) 
 }
 
 void ReportTest::SwitchOffAllRows() {
+    std::vector<std::pair<std::string, std::string>> values;
     for (const SalesRow& row : SalesRows())
-        if (row.option) Option(row.option, "0");
+        if (row.option) values.emplace_back(row.option, "0");
+    WriteProfileSection(Ini().AppProfileFileName, "ReportOptions", values);
 }
 
 std::string ReportTest::MakePicture(const std::string& name, int width, int height) {
