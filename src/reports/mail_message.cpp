@@ -47,10 +47,10 @@ std::string FreeFileName(const std::string& folder, const std::string& name) {
     return file;
 }
 
-void DeleteFilesBefore(const std::string& folder, std::int64_t time) {
+void DeletePdfsBefore(const std::string& folder, std::int64_t time) {
     for (const std::string& name : FilesIn(folder)) {
         const auto modified = FileModified(folder + name);
-        if (!modified || *modified >= time) continue;
+        if (!modified || *modified >= time || ExtensionOf(name) != ".pdf") continue;
         try {
             DeleteFileIfThere(folder + name);
         } catch (const RuntimeError&) {

@@ -20,7 +20,7 @@ std::vector<std::string> MailArguments(std::string_view projectTitle, std::strin
 /// "Job (2).pdf" and so on, since a mail that isn't sent yet may still need the other.
 std::string FreeFileName(const std::string& folder, const std::string& name);
 
-/// Deletes the files of the folder that were last changed before `time`, in seconds since 1970.
-void DeleteFilesBefore(const std::string& folder, std::int64_t time);
+/// Deletes the PDF files of the folder that were last changed before `time`, in seconds since 1970.
+void DeletePdfsBefore(const std::string& folder, std::int64_t time);
 
 }  // namespace tendo

@@ -57,14 +57,17 @@ TEST_F(MailFolder, AFileThatAMailMayStillNeedIsNotWrittenOver) {
     EXPECT_EQ(FreeFileName(folder, "Job.pdf"), folder + "Job (3).pdf");
 }
 
-TEST_F(MailFolder, OldFilesGoAndNewOnesStay) {
+TEST_F(MailFolder, OldProposalsGoAndAllElseStays) {
     Write("old.pdf");
     Write("new.pdf");
+    Write("old letter.txt");
     const auto now = std::filesystem::file_time_type::clock::now();
-    std::filesystem::last_write_time(folder + "old.pdf", now - std::chrono::hours(31 * 24));
-    DeleteFilesBefore(folder, std::time(nullptr) - 30 * 86400);
+    for (const char* name : {"old.pdf", "old letter.txt"})
+        std::filesystem::last_write_time(folder + name, now - std::chrono::hours(31 * 24));
+    DeletePdfsBefore(folder, std::time(nullptr) - 30 * 86400);
     EXPECT_FALSE(std::filesystem::exists(folder + "old.pdf"));
     EXPECT_TRUE(std::filesystem::exists(folder + "new.pdf"));
+    EXPECT_TRUE(std::filesystem::exists(folder + "old letter.txt"));
 }
 
 }  // namespace

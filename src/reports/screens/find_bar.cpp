@@ -57,7 +57,9 @@ void FindBar::ShowCount(int current, int count) {
     QString text;
     if (count > 0) text = QString("%1 of %2").arg(current + 1).arg(count);
     if (count == 0 && !Wanted().trimmed().isEmpty()) text = "Nothing found";
+    const bool changed = lblFindCount_->text() != text;
     lblFindCount_->setText(text);
+    if (changed && !text.isEmpty()) SpeakOf(lblFindCount_);
     btnFindPrevious_->setEnabled(count > 0);
     btnFindNext_->setEnabled(count > 0);
 }

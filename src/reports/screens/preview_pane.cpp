@@ -24,10 +24,9 @@ constexpr const char* SettingsSection = "frmPreview";
 constexpr const char* ThumbnailsKey = "Thumbnails";
 
 /// A strip of text above the page, which can be marked and copied; hidden while it is empty.
-QLabel* MakeStrip(const char* name, const char* spoken, QWidget* parent) {
+QLabel* MakeStrip(const char* name, QWidget* parent) {
     auto* strip = new QLabel(parent);
     strip->setObjectName(name);
-    strip->setAccessibleName(spoken);
     strip->setWordWrap(true);
     strip->setTextFormat(Qt::PlainText);
     strip->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -39,6 +38,7 @@ QLabel* MakeStrip(const char* name, const char* spoken, QWidget* parent) {
 void ShowStrip(QLabel* strip, const QString& text) {
     strip->setText(text);
     strip->setVisible(!text.isEmpty());
+    if (!text.isEmpty()) SpeakOf(strip);
 }
 
 QString Joined(const std::vector<std::string>& lines) {
@@ -88,9 +88,9 @@ QWidget* PreviewPane::MakeStrips() {
     auto* column = new QVBoxLayout(strips);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    lblProblems_ = MakeStrip("lblProblems", "Problems of the reports", strips);
+    lblProblems_ = MakeStrip("lblProblems", strips);
     lblProblems_->setProperty("problem", true);
-    lblNote_ = MakeStrip("lblNote", "Note", strips);
+    lblNote_ = MakeStrip("lblNote", strips);
     column->addWidget(lblProblems_);
     column->addWidget(lblNote_);
     return strips;
@@ -104,7 +104,6 @@ QWidget* PreviewPane::MakeEmptyPage() {
     column->setSpacing(16);
     lblNoPages_ = new QLabel(empty);
     lblNoPages_->setObjectName("lblNoPages");
-    lblNoPages_->setAccessibleName("No pages");
     lblNoPages_->setAlignment(Qt::AlignCenter);
     lblNoPages_->setWordWrap(true);
     lblNoPages_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

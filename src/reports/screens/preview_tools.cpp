@@ -1,5 +1,6 @@
 #include "reports/screens/preview_tools.h"
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -29,6 +30,11 @@ QToolButton* MakeTool(const ToolSpec& spec, QWidget* parent) {
     tool->setToolTip(spec.text);
     tool->setAccessibleName(QString(spec.text).section(" (", 0, 0));
     return tool;
+}
+
+void SpeakOf(QWidget* label) {
+    QAccessibleEvent event(label, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 PreviewTools::PreviewTools(std::span<const ReportChoice> choices, QWidget* parent)

@@ -34,6 +34,8 @@ struct ToolSpec {
     const char* text;
 };
 QToolButton* MakeTool(const ToolSpec& spec, QWidget* parent);
+/// Has a screen reader say a text that came up without the focus going there.
+void SpeakOf(QWidget* label);
 
 /// The bar of a preview: the controls of the preview toolbar and what they ask for. It takes as
 /// many lines as its width needs.

@@ -26,7 +26,7 @@ std::string WriteAttachment(const Document& document) {
     const Hourglass pointer;
     const std::string folder = WithSeparator(WithSeparator(State().ProgramDirectory) + "Mail");
     MakeDirectory(folder);
-    DeleteFilesBefore(folder, QDateTime::currentSecsSinceEpoch() - DaysKept * SecondsOfADay);
+    DeletePdfsBefore(folder, QDateTime::currentSecsSinceEpoch() - DaysKept * SecondsOfADay);
     const std::string file = FreeFileName(folder, ExportName(".pdf"));
     WritePdf(document, file);
     return file;
