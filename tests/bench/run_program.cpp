@@ -15,6 +15,14 @@ extern char** environ;
 
 namespace tendo::bench {
 
+namespace {
+
+double SecondsOf(const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+}
+
+}  // namespace
+
 Run RunProgram(const std::vector<std::string>& words) {
     int pipeEnds[2];
     if (pipe(pipeEnds) != 0) throw std::runtime_error("no pipe");
@@ -43,6 +51,7 @@ Run RunProgram(const std::vector<std::string>& words) {
     int status = 0;
     if (wait4(child, &status, 0, &usage) != child || status != 0)
         throw std::runtime_error(words[0] + " failed");
+    run.processor = SecondsOf(usage.ru_utime) + SecondsOf(usage.ru_stime);
     run.peak = static_cast<double>(usage.ru_maxrss) * 1024;
     return run;
 }

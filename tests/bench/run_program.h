@@ -7,8 +7,9 @@ namespace tendo::bench {
 
 /// One run of another program.
 struct Run {
-    double seconds = 0;  // to the end of its output
-    double peak = 0;     // bytes of resident memory
+    double seconds = 0;    // to the end of its output
+    double processor = 0;  // seconds of processor time, its own programs' included
+    double peak = 0;       // bytes of resident memory
     std::string output;
 };
 
