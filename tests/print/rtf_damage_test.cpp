@@ -99,6 +99,14 @@ TEST(RtfDamage, ZeroBytesAreNothing) {
     EXPECT_EQ(LaidOutPages(std::string(10000, '\0')), 1u);
 }
 
+/// Of EF BB, EF BB BF and BF the middle is a mark that isn't shown; three broken bytes remain.
+TEST(RtfDamage, BrokenLettersBecomeTheSignForThem) {
+    const std::string text = Plain("{\\b a\xEF\xBB\xEF\xBB\xBF\xBFz}");
+    EXPECT_EQ(text, "a\uFFFD\uFFFD\uFFFDz");
+    EXPECT_EQ(PlainTextOf(ReadRichText(WriteRichText(ReadRichText("{\\b \xC3\\i\xA9}", {})), {})),
+              "\uFFFD\uFFFD");
+}
+
 TEST(RtfDamage, WordsAndNumbersAtTheVeryEndAreHarmless) {
     for (const auto* end : {"\\", "\\b", "\\fs", "\\fs-", "\\fs-9", "\\u", "\\u8364", "\\'", "\\'4",
                             "\\bin", "\\bin9", "\\*", "{\\*", "{\\*\\pn", "{\\footnote", "\\cell",

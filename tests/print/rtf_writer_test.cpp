@@ -76,6 +76,13 @@ TEST(RtfWriter, LettersTabsAndLineBreaksReadBackTheSame) {
     EXPECT_NE(WriteRichText(OneParagraph({Piece(words)})).find("<$$$$> <PAGE>"), std::string::npos);
 }
 
+TEST(RtfWriter, LettersInAFontOfSymbolsStayLetters) {
+    const RichText read =
+        ReadBack(OneParagraph({Piece("Sum ", {"Symbol", 240}), Piece("and", {"Wingdings", 200})}));
+    EXPECT_EQ(read.paragraphs[0].runs[0].text, "Sum ");
+    EXPECT_EQ(read.paragraphs[0].runs[1].text, "and");
+}
+
 TEST(RtfWriter, ABulletReadsBackAsOne) {
     RichText text = OneParagraph({Piece("•\tfirst point")});
     text.paragraphs[0].bullet = true;

@@ -21,10 +21,11 @@ bool IsEmpty(const std::vector<RichRun>& runs) {
                        [](const RichRun& run) { return run.text.empty(); });
 }
 
-/// Control characters and the places to break a word (soft hyphens, blanks of no width) are taken
-/// out: they would be printed.
+/// Broken letters become the sign for them. Control characters and the places to break a word (soft
+/// hyphens, blanks of no width) are taken out: they would be printed.
 void DropUnseen(std::vector<RichRun>& runs) {
     for (RichRun& run : runs) {
+        if (!IsUtf8(run.text)) run.text = FromCodePoints(ToCodePoints(run.text));
         std::erase_if(run.text, [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\t'; });
         for (const std::string_view unseen : {"\u00AD", "\u200B", "\uFEFF"})
             if (Contains(run.text, unseen)) run.text = Replaced(run.text, unseen, "");

@@ -247,7 +247,8 @@ void RtfReader::AddHeadByte(char character) {
         colorEntry_ = 0;
         return;
     }
-    if (character == ';' ||
+    const bool control = character >= 0 && character < ' ';
+    if (control || character == ';' ||
         (head_.fonts.size() >= MostTableEntries && !head_.fonts.contains(Now().font)))
         return;
     std::string& name = head_.fonts[Now().font].name;

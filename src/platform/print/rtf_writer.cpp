@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <vector>
 
+#include "platform/print/symbol_fonts.h"
+#include "platform/text/text.h"
 #include "platform/text/utf8.h"
 
 namespace tendo {
@@ -65,6 +67,12 @@ std::string LeaderWord(char leader) {
     if (leader == '.') return "\\tldot";
     if (leader == '-') return "\\tlhyph";
     return leader == '_' ? "\\tlul" : "";
+}
+
+/// Letters in a font of symbols would be read as its signs.
+std::string TextFamily(const FontSpec& font) {
+    const std::string_view family = Trimmed(font.family);
+    return std::string(IsSymbolFont(family) || family.empty() ? FontSpec().family : family);
 }
 
 /// Where the mark ends that begins with the "<" at `start`: a word of capitals or dollar signs in
@@ -191,7 +199,7 @@ class RtfWriter {
 
     void AddRun(const RichRun& run, std::string_view shown) {
         const FontSpec& font = run.font;
-        body_ += "\\plain" + Word("f", PlaceIn(fonts_, font.family));
+        body_ += "\\plain" + Word("f", PlaceIn(fonts_, TextFamily(font)));
         body_ += Word("fs", font.sizeTwips / 10);
         if (font.bold) body_ += "\\b";
         if (font.italic) body_ += "\\i";
