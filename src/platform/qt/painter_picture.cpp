@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "platform/qt/painter_metafile.h"
 #include "platform/qt/picture_store.h"
@@ -23,21 +24,30 @@ QSize DeviceSize(const QPainter& painter, const QRectF& box) {
                  std::max(1, static_cast<int>(std::ceil(size.height()))));
 }
 
-/// More pixels than the device has are averaged, for a painter would drop them; kept as the screen
-/// asks for the same size again and again.
-QImage ForDevice(const LoadedPicture& picture, QSize device) {
-    static QImage scaled;
-    static qint64 scaledFrom = 0;
-    const QImage& pixels = picture.pixels;
+/// A picture as it was averaged for a size. A screen asks for the same few again and again.
+struct ScaledPicture {
+    qint64 from = 0;  // the cache key of the pixels
+    QImage pixels;
+};
+constexpr std::size_t MostScaled = 6;
+constexpr qsizetype MostScaledBytes = 8 << 20;  // larger ones are for paper, asked for once
+
+QImage Scaled(const QImage& pixels, QSize size) {
+    static std::vector<ScaledPicture> held;
+    for (const ScaledPicture& one : held)
+        if (one.from == pixels.cacheKey() && one.pixels.size() == size) return one.pixels;
+    QImage scaled = pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (scaled.sizeInBytes() > MostScaledBytes) return scaled;
+    if (held.size() == MostScaled) held.erase(held.begin());
+    held.push_back({pixels.cacheKey(), scaled});
+    return scaled;
+}
+
+/// More pixels than the device has are averaged, for a painter would drop them.
+QImage ForDevice(const QImage& pixels, QSize device) {
     const bool dense =
         pixels.width() > device.width() * 3 / 2 || pixels.height() > device.height() * 3 / 2;
-    if (!dense) return pixels;
-    const QSize size = device.boundedTo(pixels.size());
-    if (scaledFrom != pixels.cacheKey() || scaled.size() != size) {
-        scaled = pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        scaledFrom = pixels.cacheKey();
-    }
-    return scaled;
+    return dense ? Scaled(pixels, device.boundedTo(pixels.size())) : pixels;
 }
 
 void PaintPixels(QPainter& painter, const LoadedPicture& picture, const QRectF& box) {
@@ -45,7 +55,7 @@ void PaintPixels(QPainter& painter, const LoadedPicture& picture, const QRectF& 
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     // Flat colours and edges, as logos have them, stay clean; photographs stay small.
     painter.setRenderHint(QPainter::LosslessImageRendering, !picture.photograph);
-    painter.drawImage(box, ForDevice(picture, DeviceSize(painter, box)));
+    painter.drawImage(box, ForDevice(picture.pixels, DeviceSize(painter, box)));
     painter.setRenderHints(painter.renderHints(), false);
     painter.setRenderHints(hints);
 }
