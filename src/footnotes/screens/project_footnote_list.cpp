@@ -32,14 +32,17 @@ std::optional<std::size_t> ProjectFootnoteList::Row() const {
     return static_cast<std::size_t>(row);
 }
 
-void ProjectFootnoteList::ShowChosen() {
-    const auto row = Row();
-    if (row && text_->Store()) {
-        text_->ShowProjectText(mode_, *row);
-    } else if (row) {
-        const QSignalBlocker quiet(this);
-        setCurrentRow(-1);  // the editor keeps what it couldn't store
+void ProjectFootnoteList::ShowRow(std::size_t row) {
+    if (text_->Store()) {
+        text_->ShowProjectText(mode_, row);
+        return;
     }
+    const QSignalBlocker quiet(this);
+    setCurrentRow(-1);  // the editor keeps what it couldn't store
+}
+
+void ProjectFootnoteList::ShowChosen() {
+    if (const auto row = Row()) ShowRow(*row);
     Q_EMIT Chosen();
 }
 

@@ -22,6 +22,7 @@ class ProjectFootnoteList : public QListWidget {
     std::optional<std::size_t> Row() const;
     void ChooseLast() { setCurrentRow(count() - 1); }
     /// Shows the text of the chosen footnote, after that of the editor was stored.
+    void ShowRow(std::size_t row);
     void ShowChosen();
 
     void Remove();
