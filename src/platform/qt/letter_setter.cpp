@@ -59,6 +59,7 @@ class LetterSetter::FontLetters {
 
     bool Draw(QPainter& painter, QPointF baseLine, std::string_view text) {
         if (!isPlain_ || !ToLatin(text, letters_) || !Set()) return false;
+        if (run_.empty()) return true;
         QGlyphRun run;
         run.setRawFont(raw_);
         run.setRawData(run_.data(), places_.data(), static_cast<int>(run_.size()));
@@ -69,15 +70,18 @@ class LetterSetter::FontLetters {
   private:
     static constexpr float Unknown = -1, Joined = std::numeric_limits<float>::infinity();
 
-    /// Glyphs and places of the letters; false when some join or are missing from the font.
+    /// Glyphs and places of the letters; false when some join or are missing from the font. A blank
+    /// is a gap only: readers tell words by their distance, and a sixth of a file is spared.
     bool Set() {
         run_.clear();
         places_.clear();
         double x = 0;
         for (std::size_t i = 0; i < letters_.size(); ++i) {
             if (glyphs_[letters_[i]] == 0) return false;
-            run_.push_back(glyphs_[letters_[i]]);
-            places_.emplace_back(std::round(x), 0);
+            if (letters_[i] != Blank) {
+                run_.push_back(glyphs_[letters_[i]]);
+                places_.emplace_back(std::round(x), 0);
+            }
             x += i + 1 < letters_.size() ? Step(letters_[i], letters_[i + 1]) : 0;
             if (x == double{Joined}) return false;
         }
