@@ -7,7 +7,7 @@ for theme in light dark; do
     home=/tmp/tendo
     rm -rf "$home"
     mkdir -p "$home/home"
-    printf '[Owner]\nOwnerName=Larkmoor Heating & Air\nOwnerAddress=480 Foundry Road\nOwnerCity=Brindle Falls\nOwnerState=MN 55999\nOwnerPhone=(507) 555-0100\n[BannerOptions]\nDescription=Comfort, carefully measured\nCompanyFax=(507) 555-0101\n' >"$home/home/Tendo.ini"
+    cp data/sample_company.ini "$home/home/Tendo.ini"
     sed "s/THEME/$theme/" docs/pictures.drive >"$home/pictures.drive"
     env -u DISPLAY -u WAYLAND_DISPLAY QT_QPA_PLATFORM=offscreen TENDO_THEME=$theme \
         build/release/bin/tendo-driver --home "$home/home" --today 2026-05-04 "$home/pictures.drive" 2>/dev/null |
