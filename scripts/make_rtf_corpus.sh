@@ -88,7 +88,8 @@ with_doxygen() {
     cp "$work/doxygen/rtf/refman.rtf" "$out/doxygen_takeoff.rtf"
 }
 
-with_perl() { perl "$sources/make_rtf_writer.pl" "$out"; }
+# The writer notes the name it was called by: that is to be no path.
+with_perl() { (cd "$sources" && perl make_rtf_writer.pl "$out"); }
 
 # Our own writer's texts; needs build/dev. The tests that write them fail until LibreOffice has read them.
 with_own_writer() {
