@@ -12,41 +12,36 @@ std::size_t Index(int system) {
     return static_cast<std::size_t>(system - 1);
 }
 
-struct CoolingTexts {
-    const char *manufacturer, *model, *type, *description;
-    float capacity, efficiency, price;
-};
-struct HeatingTexts {
+struct UnitTexts {
     const char *manufacturer, *model, *type, *description;
     float capacity, efficiency, price;
 };
 
-void AddCooling(PaperJob& job, int system, const CoolingTexts& texts) {
-    CLGModelRecord& model = job.project.CLGModelData[Index(system)];
+/// What cooling and heating records share.
+void SetUnit(auto& model, const UnitTexts& texts) {
     model.Manuf = texts.manufacturer;
     model.ModelNum = texts.model;
     model.ModelType = texts.type;
     model.ModelDesc = texts.description;
     model.Cap = texts.capacity;
     model.EFF = texts.efficiency;
+    model.Labor = "1 Year";
+}
+
+void AddCooling(PaperJob& job, int system, const UnitTexts& texts) {
+    CLGModelRecord& model = job.project.CLGModelData[Index(system)];
+    SetUnit(model, texts);
     model.CompressorWarranty = "10 Years";
     model.Parts = "5 Years";
-    model.Labor = "1 Year";
     job.project.ModelInfo[Index(system)].CLGModelDealerCost = texts.price / 2;
     job.project.ModelInfo[Index(system)].CLGSalePrice = texts.price;
 }
 
-void AddHeating(PaperJob& job, int system, const HeatingTexts& texts) {
+void AddHeating(PaperJob& job, int system, const UnitTexts& texts) {
     HTGModelRecord& model = job.project.HTGModelData[Index(system)];
-    model.Manuf = texts.manufacturer;
-    model.ModelNum = texts.model;
-    model.ModelType = texts.type;
-    model.ModelDesc = texts.description;
-    model.Cap = texts.capacity;
-    model.EFF = texts.efficiency;
+    SetUnit(model, texts);
     model.WarrantyOnHeatExchanger = "Lifetime";
     model.Parts = "10 Years";
-    model.Labor = "1 Year";
     job.project.ModelInfo[Index(system)].HTGModelDealerCost = texts.price / 2;
     job.project.ModelInfo[Index(system)].HTGSalePrice = texts.price;
 }
